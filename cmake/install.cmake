@@ -1,0 +1,18 @@
+include(CMakePackageConfigHelpers)
+
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/kavrix_map_resource)
+
+install(TARGETS kavrix_map_resource EXPORT kavrix_map_resource_targets)
+install(DIRECTORY src/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/kavrix_map_resource FILES_MATCHING PATTERN "*.h")
+install(EXPORT kavrix_map_resource_targets NAMESPACE kavrix:: DESTINATION ${package_dir})
+if(TARGET kavrix-resource)
+  install(TARGETS kavrix-resource)
+endif()
+
+configure_package_config_file(cmake/kavrix_map_resource-config.cmake.in
+                              ${PROJECT_BINARY_DIR}/kavrix_map_resource-config.cmake INSTALL_DESTINATION ${package_dir})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/kavrix_map_resource-config-version.cmake
+                                 COMPATIBILITY SameMinorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/kavrix_map_resource-config.cmake
+              ${PROJECT_BINARY_DIR}/kavrix_map_resource-config-version.cmake cmake/FindKavrixJsonCpp.cmake
+        DESTINATION ${package_dir})

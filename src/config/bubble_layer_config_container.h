@@ -1,0 +1,62 @@
+#ifndef KAVRIX_CONFIG_BUBBLE_LAYER_CONFIG_CONTAINER_H_
+#define KAVRIX_CONFIG_BUBBLE_LAYER_CONFIG_CONTAINER_H_
+
+#include "config/bubble_style_record.h"
+
+namespace kavrix {
+
+// The styles of the bubble layer, a plain value. The order is that of the configuration that fills it, so
+// records that no bubble kind reads keep their places.
+struct BubbleLayerConfigContainer {
+  BubbleStyleRecord<4> route_name_style;        // 1: route name, scene 0
+  BubbleStyleRecord<12> traffic_style;          // 2: traffic, scene 0
+  BubbleStyleRecord<8> companion_style;         // 3: companion
+  BubbleStyleRecord<18> camera_style;           // 4: camera, scene 0
+  BubbleStyleRecord<12> eta_style;              // 5: ETA, scene 0
+  BubbleStyleRecord<12> eta_scene_style;        // 6: ETA, any other scene
+  BubbleStyleRecord<4> route_label_style;       // 7: route label
+  BubbleStyleRecord<18> camera_scene_style;     // 8: camera, any other scene
+  BubbleStyleRecord<14> traffic_nav_style;      // 9: traffic, any other scene, "nav_mode" 1
+  BubbleStyleRecord<4> route_name_scene_style;  // 10: route name, any other scene
+  BubbleStyleRecord<2> turn_style;              // 11: turn, the name alone
+  BubbleStyleRecord<18> unread_style_12;        // 12
+  BubbleStyleRecord<2> unread_style_13;         // 13
+  BubbleStyleRecord<4> hd_long_solid_style;     // 14: HD long solid
+  BubbleStyleRecord<2> unread_style_15;         // 15
+  BubbleStyleRecord<4> indoor_entries_style;    // 16: indoor entries
+  BubbleStyleRecord<4> light_wait_style;        // 17: light wait
+  BubbleStyleRecord<2> unread_style_18;         // 18
+  BubbleStyleRecord<2> unread_style_19;         // 19
+  BubbleStyleRecord<2> unread_style_20;         // 20
+  BubbleStyleRecord<11> traffic_scene_style;    // 21: traffic, any other scene, "nav_mode" not 1
+};
+
+// Calls visit(member name, record) for the 21 records in order.
+template <class Config, class Visit>
+void ForEachStyleRecord(Config& config, Visit visit) {
+  visit("route_name_style", config.route_name_style);
+  visit("traffic_style", config.traffic_style);
+  visit("companion_style", config.companion_style);
+  visit("camera_style", config.camera_style);
+  visit("eta_style", config.eta_style);
+  visit("eta_scene_style", config.eta_scene_style);
+  visit("route_label_style", config.route_label_style);
+  visit("camera_scene_style", config.camera_scene_style);
+  visit("traffic_nav_style", config.traffic_nav_style);
+  visit("route_name_scene_style", config.route_name_scene_style);
+  visit("turn_style", config.turn_style);
+  visit("unread_style_12", config.unread_style_12);
+  visit("unread_style_13", config.unread_style_13);
+  visit("hd_long_solid_style", config.hd_long_solid_style);
+  visit("unread_style_15", config.unread_style_15);
+  visit("indoor_entries_style", config.indoor_entries_style);
+  visit("light_wait_style", config.light_wait_style);
+  visit("unread_style_18", config.unread_style_18);
+  visit("unread_style_19", config.unread_style_19);
+  visit("unread_style_20", config.unread_style_20);
+  visit("traffic_scene_style", config.traffic_scene_style);
+}
+
+}  // namespace kavrix
+
+#endif  // KAVRIX_CONFIG_BUBBLE_LAYER_CONFIG_CONTAINER_H_

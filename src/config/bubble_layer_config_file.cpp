@@ -1,0 +1,168 @@
+#include "config/bubble_layer_config_file.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <string_view>
+#include <vector>
+
+#include "util/json_util.h"
+
+namespace kavrix {
+namespace {
+
+// Which values of which records are floats; every other value is a word.
+struct FloatValues {
+  std::string_view record;
+  std::vector<std::size_t> numbers;
+};
+
+bool IsFloat(std::string_view record, std::size_t number) {
+  static const std::vector<FloatValues> kFloatValues = {
+      {"route_name_style", {3}},
+      {"traffic_style", {3, 4, 5, 6, 8, 9, 10}},
+      {"companion_style", {6, 7}},
+      {"eta_style", {2, 8}},
+      {"eta_scene_style", {2, 8}},
+      {"route_label_style", {4}},
+      {"traffic_nav_style", {3, 4, 5, 6, 8, 9, 10}},
+      {"route_name_scene_style", {3}},
+      {"hd_long_solid_style", {3}},
+      {"indoor_entries_style", {3}},
+      {"light_wait_style", {3}},
+      {"traffic_scene_style", {3, 4, 5, 6, 8, 9, 10}},
+  };
+  for (const FloatValues& floats : kFloatValues) {
+    if (floats.record == record) {
+      return std::find(floats.numbers.begin(), floats.numbers.end(), number) != floats.numbers.end();
+    }
+  }
+  return false;
+}
+
+std::string Found(const Json::Value& value) {
+  std::string text = JsonUtil::ToText(value);
+  constexpr std::size_t kLongest = 60;
+  if (text.size() > kLongest) text = text.substr(0, kLongest) + "...";
+  return text;
+}
+
+[[noreturn]] void Fail(const std::string& where, const std::string& expected, const Json::Value& found) {
+  throw ConfigError(where + ": expected " + expected + ", found " + Found(found));
+}
+
+void RequireObject(const std::string& where, const Json::Value& value) {
+  if (!value.isObject()) Fail(where, "an object", value);
+}
+
+std::string ReadText(const std::string& where, const Json::Value& value) {
+  const auto text = JsonUtil::AsText(value);
+  if (!text) Fail(where, "a text", value);
+  return std::string(*text);
+}
+
+std::uint32_t ReadWord(const std::string& where, const Json::Value& value) {
+  constexpr const char* kExpected = "an integer from 0 to 4294967295 or a text such as \"0xffff0000\"";
+  if (const auto text = JsonUtil::AsText(value)) {
+    std::uint32_t word = 0;
+    const char* const end = text->data() + text->size();
+    if (text->size() <= 2 || text->substr(0, 2) != "0x") Fail(where, kExpected, value);
+    const auto [stop, error] = std::from_chars(text->data() + 2, end, word, 16);
+    if (error != std::errc() || stop != end) Fail(where, kExpected, value);
+    return word;
+  }
+  const auto integer = JsonUtil::AsInteger(value);
+  if (!integer || *integer < 0 || *integer > std::numeric_limits<std::uint32_t>::max()) {
+    Fail(where, kExpected, value);
+  }
+  return static_cast<std::uint32_t>(*integer);
+}
+
+float ReadFloat(const std::string& where, const Json::Value& value) {
+  const auto number = JsonUtil::AsDouble(value);
+  if (!number) Fail(where, "a number", value);
+  if (std::abs(*number) > static_cast<double>(std::numeric_limits<float>::max())) {
+    Fail(where, "a number that a float can hold", value);
+  }
+  return static_cast<float>(*number);
+}
+
+template <class Record>
+void ReadValues(const std::string& record_name, const Json::Value& values, Record& record) {
+  if (!values.isArray()) Fail(record_name + ".values", "an array", values);
+  if (values.size() > Record::kValueCount) {
+    throw ConfigError(record_name + ".values: expected at most " + std::to_string(Record::kValueCount) +
+                      " values, found " + std::to_string(values.size()));
+  }
+  std::size_t number = 0;
+  for (const Json::Value& value : values) {
+    ++number;
+    const std::string where = record_name + " value " + std::to_string(number);
+    if (IsFloat(record_name, number)) {
+      record.SetFloat(number, ReadFloat(where, value));
+    } else {
+      record.SetWord(number, ReadWord(where, value));
+    }
+  }
+}
+
+template <class Record>
+void ReadRecord(const std::string& record_name, const Json::Value& json, Record& record) {
+  RequireObject(record_name, json);
+  for (const std::string& key : json.getMemberNames()) {
+    if (key == "name") {
+      record.name = ReadText(record_name + ".name", json[key]);
+    } else if (key == "values") {
+      ReadValues(record_name, json[key], record);
+    } else {
+      throw ConfigError(record_name + ": unknown key \"" + key + "\", expected \"name\" or \"values\"");
+    }
+  }
+}
+
+void ReadBubbleLayer(const Json::Value& json, BubbleLayerConfigContainer& config) {
+  RequireObject("bubble_layer", json);
+  for (const std::string& key : json.getMemberNames()) {
+    bool known = false;
+    ForEachStyleRecord(config, [&](const char* name, auto& record) {
+      if (key != name) return;
+      known = true;
+      ReadRecord(key, json[key], record);
+    });
+    if (!known) throw ConfigError("bubble_layer: unknown record \"" + key + "\"");
+  }
+}
+
+std::int32_t ReadInt(const std::string& where, const Json::Value& value) {
+  const auto number = JsonUtil::AsInt(value);
+  if (!number) Fail(where, "a 32-bit integer", value);
+  return *number;
+}
+
+}  // namespace
+
+BubbleLayerConfigFile ParseBubbleLayerConfig(const std::string& json_text) {
+  Json::Value root;
+  std::string error;
+  if (!JsonUtil::ParseStrictly(json_text, root, error)) throw ConfigError("not valid JSON: " + error);
+  RequireObject("the configuration", root);
+
+  BubbleLayerConfigFile file;
+  for (const std::string& key : root.getMemberNames()) {
+    const Json::Value& value = root[key];
+    if (key == "context_name") {
+      file.context_name = ReadText(key, value);
+    } else if (key == "multi_light_type") {
+      file.multi_light_type = ReadInt(key, value);
+    } else if (key == "bubble_layer") {
+      ReadBubbleLayer(value, file.bubble_layer);
+    } else {
+      throw ConfigError("unknown key \"" + key +
+                        "\", expected \"context_name\", \"multi_light_type\" or \"bubble_layer\"");
+    }
+  }
+  return file;
+}
+
+}  // namespace kavrix

@@ -1,0 +1,62 @@
+#ifndef KAVRIX_DESCRIPTORS_BUBBLE_DRAW_DESCRIPTOR_H_
+#define KAVRIX_DESCRIPTORS_BUBBLE_DRAW_DESCRIPTOR_H_
+
+#include <array>
+#include <cstdint>
+#include <ostream>
+#include <string>
+#include <type_traits>
+
+#include "descriptors/member_visitor.h"
+
+namespace kavrix {
+
+// Everything needed to draw one bubble. Made with std::make_shared and handed around as a shared pointer;
+// what the resource name did not set is zero, false or empty. Kinds with members of their own derive from it.
+class BubbleDrawDescriptor {
+ public:
+  virtual ~BubbleDrawDescriptor() = default;
+
+  // The class name, without the namespace.
+  virtual const char* TypeName() const { return "BubbleDrawDescriptor"; }
+
+  // The 13 members of this class, then those that the derived class adds. Text form, JSON form and equality
+  // all run these two.
+  void VisitBaseMembers(MemberVisitor& visitor) const;
+  virtual void VisitOwnMembers(MemberVisitor&) const {}
+
+  std::int32_t scene = 0;         // zero and non-zero select different style records
+  std::string content;            // main text, or the image key
+  std::string lan;                // language code of the text
+  std::uint16_t bubble_kind = 0;  // the bubble layer's kind code
+  std::int16_t type = 0;          // sub-type code
+  std::int16_t direction = 0;     // side or direction code
+  bool mode_flag = false;         // selects the first of the two value sets of a style record
+  std::string style_name;         // style (image) name
+  std::string icon;               // icon name
+  std::uint32_t style_word = 0;
+  std::array<float, 2> style_scale{};
+  bool selected = false;
+  bool is_force = false;
+};
+
+// The members of the base class alone, whatever the object's own type is.
+std::ostream& operator<<(std::ostream& stream, const BubbleDrawDescriptor& descriptor);
+
+// All members of the object, on one line.
+std::ostream& WriteAllMembers(std::ostream& stream, const BubbleDrawDescriptor& descriptor);
+
+template <class Descriptor, std::enable_if_t<std::is_base_of_v<BubbleDrawDescriptor, Descriptor> &&
+                                                 !std::is_same_v<BubbleDrawDescriptor, Descriptor>,
+                                             int> = 0>
+std::ostream& operator<<(std::ostream& stream, const Descriptor& descriptor) {
+  return WriteAllMembers(stream, descriptor);
+}
+
+// Equal when the types are the same and all members of the two objects are equal.
+bool operator==(const BubbleDrawDescriptor& a, const BubbleDrawDescriptor& b);
+bool operator!=(const BubbleDrawDescriptor& a, const BubbleDrawDescriptor& b);
+
+}  // namespace kavrix
+
+#endif  // KAVRIX_DESCRIPTORS_BUBBLE_DRAW_DESCRIPTOR_H_

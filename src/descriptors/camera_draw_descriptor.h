@@ -1,0 +1,48 @@
+#ifndef KAVRIX_DESCRIPTORS_CAMERA_DRAW_DESCRIPTOR_H_
+#define KAVRIX_DESCRIPTORS_CAMERA_DRAW_DESCRIPTOR_H_
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "descriptors/bubble_draw_descriptor.h"
+
+namespace kavrix {
+
+// One or more road cameras at one place.
+class CameraDrawDescriptor : public BubbleDrawDescriptor {
+ public:
+  struct Camera {
+    std::int32_t type = 0;
+    std::int32_t speed = 0;  // speed limit
+  };
+
+  const char* TypeName() const override { return "CameraDrawDescriptor"; }
+  void VisitOwnMembers(MemberVisitor& visitor) const override {
+    visitor.BeginList("cameras");
+    for (const Camera& camera : cameras) {
+      visitor.BeginRecord();
+      visitor.Integer("type", camera.type);
+      visitor.Integer("speed", camera.speed);
+      visitor.EndRecord();
+    }
+    visitor.EndList();
+    visitor.Integer("distance", distance);
+    visitor.Text("snap_text", snap_text);
+    visitor.BeginList("plain_style_values");
+    for (const std::uint32_t value : plain_style_values) visitor.Integer("", value);
+    visitor.EndList();
+    visitor.Integer("mode_style_value", mode_style_value);
+  }
+
+  std::vector<Camera> cameras;
+  std::int32_t distance = 0;  // distance to the cameras
+  std::string snap_text;
+  std::array<std::uint32_t, 3> plain_style_values{};
+  std::uint32_t mode_style_value = 0;
+};
+
+}  // namespace kavrix
+
+#endif  // KAVRIX_DESCRIPTORS_CAMERA_DRAW_DESCRIPTOR_H_

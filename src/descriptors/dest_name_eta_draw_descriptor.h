@@ -1,0 +1,32 @@
+#ifndef KAVRIX_DESCRIPTORS_DEST_NAME_ETA_DRAW_DESCRIPTOR_H_
+#define KAVRIX_DESCRIPTORS_DEST_NAME_ETA_DRAW_DESCRIPTOR_H_
+
+#include <cstdint>
+#include <string>
+
+#include "descriptors/bubble_draw_descriptor.h"
+
+namespace kavrix {
+
+// The destination's name with a second text, the ETA, at the end of a route.
+class DestNameEtaDrawDescriptor : public BubbleDrawDescriptor {
+ public:
+  const char* TypeName() const override { return "DestNameEtaDrawDescriptor"; }
+  void VisitOwnMembers(MemberVisitor& visitor) const override {
+    visitor.Text("sub_text", sub_text);
+    visitor.Integer("second_style_value", second_style_value);
+    visitor.Integer("second_mode_style_value", second_mode_style_value);
+    visitor.Integer("third_mode_style_value", third_mode_style_value);
+    visitor.Integer("fourth_mode_style_value", fourth_mode_style_value);
+  }
+
+  std::string sub_text;  // the second text
+  std::uint32_t second_style_value = 0;
+  std::uint32_t second_mode_style_value = 0;
+  std::uint32_t third_mode_style_value = 0;
+  std::uint32_t fourth_mode_style_value = 0;
+};
+
+}  // namespace kavrix
+
+#endif  // KAVRIX_DESCRIPTORS_DEST_NAME_ETA_DRAW_DESCRIPTOR_H_

@@ -1,0 +1,37 @@
+#ifndef KAVRIX_DESCRIPTORS_EXPLAIN_BUBBLE_DRAW_DESCRIPTOR_H_
+#define KAVRIX_DESCRIPTORS_EXPLAIN_BUBBLE_DRAW_DESCRIPTOR_H_
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "descriptors/bubble_draw_descriptor.h"
+
+namespace kavrix {
+
+// The explanation of a route: a main text, secondary lines, an icon.
+class ExplainBubbleDrawDescriptor : public BubbleDrawDescriptor {
+ public:
+  const char* TypeName() const override { return "ExplainBubbleDrawDescriptor"; }
+  void VisitOwnMembers(MemberVisitor& visitor) const override {
+    visitor.Text("uid", uid);
+    visitor.Text("explain_content", explain_content);
+    visitor.BeginList("second_content");
+    for (const std::string& line : second_content) visitor.Text("", line);
+    visitor.EndList();
+    visitor.Integer("second_type", second_type);
+    visitor.Integer("scene_type", scene_type);
+    visitor.Integer("bubble_type", bubble_type);
+  }
+
+  std::string uid;                          // identifier of the explained item
+  std::string explain_content;              // main text; the base's `content` stays empty
+  std::vector<std::string> second_content;  // secondary lines
+  std::int32_t second_type = 0;
+  std::int32_t scene_type = 0;
+  std::int32_t bubble_type = 0;
+};
+
+}  // namespace kavrix
+
+#endif  // KAVRIX_DESCRIPTORS_EXPLAIN_BUBBLE_DRAW_DESCRIPTOR_H_

@@ -1,0 +1,55 @@
+#include "descriptors/flat_members.h"
+
+#include <utility>
+
+namespace kavrix {
+namespace {
+
+class Flattener : public MemberVisitor {
+ public:
+  explicit Flattener(std::vector<FlatMember>& members) : members_(members) {}
+
+  void Integer(const char* name, std::int64_t value) override { Add(name, value); }
+  void Flag(const char* name, bool value) override { Add(name, value); }
+  void Real(const char* name, float value) override { Add(name, value); }
+  void Text(const char* name, const std::string& value) override { Add(name, value); }
+
+  void BeginList(const char* name) override {
+    list_ = name;
+    next_index_ = 0;
+  }
+  void EndList() override { list_.clear(); }
+  void BeginRecord() override { record_ = ItemPath() + "."; }
+  void EndRecord() override { record_.clear(); }
+
+ private:
+  template <class Value>
+  void Add(const char* name, const Value& value) {
+    std::string path = list_.empty() ? name : record_.empty() ? ItemPath() : record_ + name;
+    members_.push_back({std::move(path), value});
+  }
+
+  std::string ItemPath() { return list_ + "[" + std::to_string(next_index_++) + "]"; }
+
+  std::vector<FlatMember>& members_;
+  std::string list_;    // the list being visited, if any
+  std::string record_;  // the path of the item being visited, if it is a record
+  std::size_t next_index_ = 0;
+};
+
+}  // namespace
+
+std::vector<FlatMember> FlatMembers(const BubbleDrawDescriptor& descriptor) {
+  std::vector<FlatMember> members;
+  Flattener flattener(members);
+  descriptor.VisitBaseMembers(flattener);
+  descriptor.VisitOwnMembers(flattener);
+  return members;
+}
+
+bool IsDefault(const FlatMember& member) {
+  const auto is_default = [](const auto& value) { return value == std::decay_t<decltype(value)>{}; };
+  return std::visit(is_default, member.value);
+}
+
+}  // namespace kavrix

@@ -1,0 +1,30 @@
+#ifndef KAVRIX_DESCRIPTORS_HD_LANE_CHANGE_BUBBLE_DRAW_DESCRIPTOR_H_
+#define KAVRIX_DESCRIPTORS_HD_LANE_CHANGE_BUBBLE_DRAW_DESCRIPTOR_H_
+
+#include <cstdint>
+#include <string>
+
+#include "descriptors/bubble_draw_descriptor.h"
+
+namespace kavrix {
+
+// The advice of HD guidance to change lanes.
+class HDLaneChangeBubbleDrawDescriptor : public BubbleDrawDescriptor {
+ public:
+  const char* TypeName() const override { return "HDLaneChangeBubbleDrawDescriptor"; }
+  void VisitOwnMembers(MemberVisitor& visitor) const override {
+    visitor.Integer("target_lane", target_lane);
+    visitor.Integer("distance", distance);
+  }
+
+  // Reads the members from the JSON object found inside a whole resource name, prefix and marker included.
+  // False, and nothing read, when there is none.
+  bool InitWithJson(const std::string& text);
+
+  std::int32_t target_lane = 0;  // lane to change to, counted from the left from 1; 0 unknown
+  std::int32_t distance = 0;     // distance left for the change in metres
+};
+
+}  // namespace kavrix
+
+#endif  // KAVRIX_DESCRIPTORS_HD_LANE_CHANGE_BUBBLE_DRAW_DESCRIPTOR_H_

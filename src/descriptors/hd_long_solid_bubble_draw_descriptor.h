@@ -1,0 +1,16 @@
+#ifndef KAVRIX_DESCRIPTORS_HD_LONG_SOLID_BUBBLE_DRAW_DESCRIPTOR_H_
+#define KAVRIX_DESCRIPTORS_HD_LONG_SOLID_BUBBLE_DRAW_DESCRIPTOR_H_
+
+#include "descriptors/bubble_draw_descriptor.h"
+
+namespace kavrix {
+
+// The callout of a long solid line in HD guidance; base members alone.
+class HDLongSolidBubbleDrawDescriptor : public BubbleDrawDescriptor {
+ public:
+  const char* TypeName() const override { return "HDLongSolidBubbleDrawDescriptor"; }
+};
+
+}  // namespace kavrix
+
+#endif  // KAVRIX_DESCRIPTORS_HD_LONG_SOLID_BUBBLE_DRAW_DESCRIPTOR_H_

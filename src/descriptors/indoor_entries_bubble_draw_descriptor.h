@@ -1,0 +1,26 @@
+#ifndef KAVRIX_DESCRIPTORS_INDOOR_ENTRIES_BUBBLE_DRAW_DESCRIPTOR_H_
+#define KAVRIX_DESCRIPTORS_INDOOR_ENTRIES_BUBBLE_DRAW_DESCRIPTOR_H_
+
+#include <cstdint>
+#include <string>
+
+#include "descriptors/bubble_draw_descriptor.h"
+
+namespace kavrix {
+
+// The label of the entries of an indoor place.
+class IndoorEntriesBubbleDrawDescriptor : public BubbleDrawDescriptor {
+ public:
+  const char* TypeName() const override { return "IndoorEntriesBubbleDrawDescriptor"; }
+  void VisitOwnMembers(MemberVisitor& visitor) const override {
+    visitor.Integer("entries_value", entries_value);
+    visitor.Text("entries_text", entries_text);
+  }
+
+  std::int16_t entries_value = 0;
+  std::string entries_text;
+};
+
+}  // namespace kavrix
+
+#endif  // KAVRIX_DESCRIPTORS_INDOOR_ENTRIES_BUBBLE_DRAW_DESCRIPTOR_H_

@@ -1,0 +1,16 @@
+#ifndef KAVRIX_DESCRIPTORS_LIGHT_WAIT_BUBBLE_DRAW_DESCRIPTOR_H_
+#define KAVRIX_DESCRIPTORS_LIGHT_WAIT_BUBBLE_DRAW_DESCRIPTOR_H_
+
+#include "descriptors/bubble_draw_descriptor.h"
+
+namespace kavrix {
+
+// The bubble shown while waiting at a traffic light; base members alone.
+class LightWaitBubbleDrawDescriptor : public BubbleDrawDescriptor {
+ public:
+  const char* TypeName() const override { return "LightWaitBubbleDrawDescriptor"; }
+};
+
+}  // namespace kavrix
+
+#endif  // KAVRIX_DESCRIPTORS_LIGHT_WAIT_BUBBLE_DRAW_DESCRIPTOR_H_

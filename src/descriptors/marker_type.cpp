@@ -1,0 +1,50 @@
+#include "descriptors/marker_type.h"
+
+namespace kavrix {
+namespace {
+
+const char* NameOf(MarkerType type) {
+  switch (type) {
+    case MarkerType::Poi:
+      return "Poi";
+    case MarkerType::Start:
+      return "Start";
+    case MarkerType::Destination:
+      return "Destination";
+    case MarkerType::ViaPoint:
+      return "ViaPoint";
+    case MarkerType::Parking:
+      return "Parking";
+    case MarkerType::ChargingStation:
+      return "ChargingStation";
+    case MarkerType::GasStation:
+      return "GasStation";
+    case MarkerType::Toll:
+      return "Toll";
+    case MarkerType::ServiceArea:
+      return "ServiceArea";
+    case MarkerType::Camera:
+      return "Camera";
+    case MarkerType::TrafficLight:
+      return "TrafficLight";
+    case MarkerType::Event:
+      return "Event";
+    case MarkerType::Home:
+      return "Home";
+    case MarkerType::Company:
+      return "Company";
+    case MarkerType::Favorite:
+      return "Favorite";
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+std::ostream& operator<<(std::ostream& stream, const MarkerType& type) {
+  const char* const name = NameOf(type);
+  if (name == nullptr) return stream << static_cast<std::int32_t>(type);
+  return stream << name;
+}
+
+}  // namespace kavrix

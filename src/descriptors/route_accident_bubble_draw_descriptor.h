@@ -1,0 +1,30 @@
+#ifndef KAVRIX_DESCRIPTORS_ROUTE_ACCIDENT_BUBBLE_DRAW_DESCRIPTOR_H_
+#define KAVRIX_DESCRIPTORS_ROUTE_ACCIDENT_BUBBLE_DRAW_DESCRIPTOR_H_
+
+#include <cstdint>
+#include <string>
+
+#include "descriptors/bubble_draw_descriptor.h"
+
+namespace kavrix {
+
+// An accident on the route.
+class RouteAccidentBubbleDrawDescriptor : public BubbleDrawDescriptor {
+ public:
+  const char* TypeName() const override { return "RouteAccidentBubbleDrawDescriptor"; }
+  void VisitOwnMembers(MemberVisitor& visitor) const override {
+    visitor.Text("accident_id", accident_id);
+    visitor.Integer("severity", severity);
+  }
+
+  // Reads the members from the JSON object found inside a whole resource name, prefix and marker included.
+  // False, and nothing read, when there is none.
+  bool InitWithJson(const std::string& text);
+
+  std::string accident_id;    // identifier of the traffic event
+  std::int32_t severity = 0;  // 0 unknown; higher is worse
+};
+
+}  // namespace kavrix
+
+#endif  // KAVRIX_DESCRIPTORS_ROUTE_ACCIDENT_BUBBLE_DRAW_DESCRIPTOR_H_

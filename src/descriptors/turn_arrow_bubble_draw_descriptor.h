@@ -1,0 +1,21 @@
+#ifndef KAVRIX_DESCRIPTORS_TURN_ARROW_BUBBLE_DRAW_DESCRIPTOR_H_
+#define KAVRIX_DESCRIPTORS_TURN_ARROW_BUBBLE_DRAW_DESCRIPTOR_H_
+
+#include <cstdint>
+
+#include "descriptors/bubble_draw_descriptor.h"
+
+namespace kavrix {
+
+// The next manoeuvre along the route.
+class TurnArrowBubbleDrawDescriptor : public BubbleDrawDescriptor {
+ public:
+  const char* TypeName() const override { return "TurnArrowBubbleDrawDescriptor"; }
+  void VisitOwnMembers(MemberVisitor& visitor) const override { visitor.Integer("distance", distance); }
+
+  std::int32_t distance = 0;  // distance to the manoeuvre
+};
+
+}  // namespace kavrix
+
+#endif  // KAVRIX_DESCRIPTORS_TURN_ARROW_BUBBLE_DRAW_DESCRIPTOR_H_

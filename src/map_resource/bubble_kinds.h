@@ -1,0 +1,60 @@
+#ifndef KAVRIX_MAP_RESOURCE_BUBBLE_KINDS_H_
+#define KAVRIX_MAP_RESOURCE_BUBBLE_KINDS_H_
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "map_resource/bubble_markers.h"
+#include "util/key_lister.h"
+
+namespace kavrix {
+
+// How a parser reaches the payload of a name.
+enum class PayloadWay {
+  kPrefixAndMarkerStripped = 1,  // the payload is what stands between them
+  kPrefixStripped = 2,           // the rest of the name is split into fields, the marker in the last one
+  kWholeName = 3,                // the descriptor finds its JSON object in the whole name
+};
+
+// What a kind tells about its names, for tools and documents.
+struct BubbleKindInfo {
+  const char* descriptor_type;
+  std::optional<std::uint16_t> kind_code;  // written to `bubble_kind`; none: left at 0
+  PayloadWay way;
+  const char* grammar;            // of what stands between prefix and marker
+  void (*list_keys)(KeyLister&);  // in reading order
+};
+
+const BubbleKindInfo& InfoOf(BubbleKind kind);
+
+// The names of the second entry point, which have no BubbleKind.
+extern const BubbleKindInfo kMarkerNameInfo;
+
+// Each defined in the kind's own file.
+extern const BubbleKindInfo kTrafficBubbleInfo;
+extern const BubbleKindInfo kRouteNameBubbleInfo;
+extern const BubbleKindInfo kIndoorEntriesBubbleInfo;
+extern const BubbleKindInfo kCompanionBubbleInfo;
+extern const BubbleKindInfo kCameraBubbleInfo;
+extern const BubbleKindInfo kEtaBubbleInfo;
+extern const BubbleKindInfo kRouteLabelBubbleInfo;
+extern const BubbleKindInfo kRouteExplainBubbleInfo;
+extern const BubbleKindInfo kMarkerBubbleInfo;
+extern const BubbleKindInfo kLightCountdownBubbleInfo;
+extern const BubbleKindInfo kMultiLightCountdownBubbleInfo;
+extern const BubbleKindInfo kViaCircleBubbleInfo;
+extern const BubbleKindInfo kLightWaitBubbleInfo;
+extern const BubbleKindInfo kTurnBubbleInfo;
+extern const BubbleKindInfo kHdLongSolidBubbleInfo;
+extern const BubbleKindInfo kUndergroundParkBubbleInfo;
+extern const BubbleKindInfo kForceDotBubbleInfo;
+extern const BubbleKindInfo kForcePollBubbleInfo;
+extern const BubbleKindInfo kYawNoticeBubbleInfo;
+extern const BubbleKindInfo kRouteAccidentBubbleInfo;
+extern const BubbleKindInfo kSafeWarningBubbleInfo;
+extern const BubbleKindInfo kLaneChangeBubbleInfo;
+
+}  // namespace kavrix
+
+#endif  // KAVRIX_MAP_RESOURCE_BUBBLE_KINDS_H_

@@ -1,0 +1,79 @@
+// Marker names: map markers, which have an entry point of their own beside the bubbles.
+//
+//   name = prefix JSON-object ".marker"
+//   keys : lan, mode, scene, direction, marker_type, name, resource_id, is_main_map
+//
+// Irregular: a payload that is no JSON object leaves `out` alone and is logged with the whole name under the
+// traffic tag; success is not logged. "is_main_map" counts when not 0. The content is the image key: prefix,
+// the marker type's name in lower case, "_" and the marker's name in its own case.
+
+#include <locale>
+#include <sstream>
+
+#include "map_resource/bubble_kinds.h"
+#include "map_resource/map_resource_manager.h"
+#include "map_resource/map_resource_transform.h"
+#include "util/key_reader.h"
+#include "util/string_util.h"
+#include "util/tagged_log.h"
+
+namespace kavrix {
+
+using logging::LogLevel;
+
+namespace {
+
+constexpr std::uint16_t kKindCode = 21;
+
+template <class Keys, class Marker>
+void MarkerNameKeys(Keys& keys, Marker& marker) {
+  keys.Text("lan", marker.lan);
+  keys.TrueWhenZero("mode", marker.mode_flag);
+  keys.Integer("scene", marker.scene);
+  keys.Integer("direction", marker.direction);
+  keys.Integer("marker_type", marker.marker_type);
+  keys.Text("name", marker.name);
+  keys.Integer("resource_id", marker.resource_id);
+  keys.TrueWhenNonZero("is_main_map", marker.is_main_map);
+}
+
+std::string TypeText(std::int16_t marker_type) {
+  std::ostringstream stream;
+  stream.imbue(std::locale::classic());
+  stream << MarkerType(marker_type);
+  return ToLowerASCII(stream.str());
+}
+
+}  // namespace
+
+void MapResourceTransform::GetMarkerDrawDescriptor(const std::string& resource_name,
+                                                   std::shared_ptr<BubbleDrawDescriptor>& out) {
+  const std::string_view payload = StripPrefixAndMarker(resource_name, kMarkerNameTail);
+  Json::Value root;
+  if (!JsonUtil::ParseObject(payload, root)) {
+    KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure,
+               "parse json failed: " << resource_name);
+    return;
+  }
+  ParseMarkerResourceName(root, out);
+}
+
+void MapResourceTransform::ParseMarkerResourceName(const Json::Value& value,
+                                                   std::shared_ptr<BubbleDrawDescriptor>& out) {
+  const auto marker = Publish<MarkerDrawDescriptor>(out);
+  marker->bubble_kind = kKindCode;
+  JsonKeyReader keys(value);
+  MarkerNameKeys(keys, *marker);
+  marker->is_force = true;
+  marker->content =
+      MapResourceManager::kavrix_resource_prefix + TypeText(marker->marker_type) + "_" + marker->name;
+}
+
+const BubbleKindInfo kMarkerNameInfo = {"MarkerDrawDescriptor", kKindCode,
+                                        PayloadWay::kPrefixAndMarkerStripped, "JSON object",
+                                        [](KeyLister& keys) {
+                                          MarkerDrawDescriptor marker;
+                                          MarkerNameKeys(keys, marker);
+                                        }};
+
+}  // namespace kavrix

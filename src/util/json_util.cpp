@@ -1,0 +1,92 @@
+#include "util/json_util.h"
+
+#include <json/reader.h>
+#include <json/writer.h>
+
+#include <memory>
+
+// Some JsonCpp versions mark the legacy reader deprecated. Its accept set is the contract, so it stays.
+#if defined(__GNUC__)
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+#endif
+
+namespace kavrix::JsonUtil {
+
+bool ParseObject(std::string_view text, Json::Value& root) {
+  try {
+    Json::Reader reader;
+    return reader.parse(text.data(), text.data() + text.size(), root, false) && root.isObject();
+  } catch (const Json::Exception&) {
+    return false;
+  }
+}
+
+bool ParseStrictly(const std::string& text, Json::Value& root, std::string& error) {
+  Json::CharReaderBuilder builder;
+  Json::CharReaderBuilder::strictMode(&builder.settings_);
+  const std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
+  try {
+    return reader->parse(text.data(), text.data() + text.size(), &root, &error);
+  } catch (const Json::Exception& exception) {
+    error = exception.what();
+    return false;
+  }
+}
+
+const Json::Value* Find(const Json::Value& object, std::string_view key) {
+  if (!object.isObject()) return nullptr;
+  return object.find(key.data(), key.data() + key.size());
+}
+
+namespace {
+
+// isInt() and its like are true for reals with an integral value; only the stored type tells them apart.
+bool IsStoredAsInteger(const Json::Value& value) {
+  return value.type() == Json::intValue || value.type() == Json::uintValue;
+}
+
+}  // namespace
+
+std::optional<int> AsInt(const Json::Value& value) {
+  if (!IsStoredAsInteger(value) || !value.isInt()) return std::nullopt;
+  return value.asInt();
+}
+
+std::optional<std::int64_t> AsInteger(const Json::Value& value) {
+  if (!IsStoredAsInteger(value) || !value.isInt64()) return std::nullopt;
+  return value.asInt64();
+}
+
+std::optional<double> AsDouble(const Json::Value& value) {
+  if (!value.isDouble()) return std::nullopt;  // true for integers too
+  return value.asDouble();
+}
+
+std::optional<std::string_view> AsText(const Json::Value& value) {
+  const char* begin = nullptr;
+  const char* end = nullptr;
+  if (!value.isString()) return std::nullopt;
+  if (!value.getString(&begin, &end)) return std::string_view();
+  return std::string_view(begin, static_cast<std::size_t>(end - begin));
+}
+
+std::string ToText(const Json::Value& value) {
+  Json::StreamWriterBuilder builder;
+  builder["indentation"] = "";
+  builder["emitUTF8"] = true;
+  return Json::writeString(builder, value);
+}
+
+std::string StringValue(const Json::Value& object, const std::string& key, const std::string& default_value) {
+  const Json::Value* const member = Find(object, key);
+  const auto text = member != nullptr ? AsText(*member) : std::nullopt;
+  return text ? std::string(*text) : default_value;
+}
+
+int IntValue(const Json::Value& object, const std::string& key, int default_value) {
+  const Json::Value* const member = Find(object, key);
+  const auto number = member != nullptr ? AsInt(*member) : std::nullopt;
+  return number.value_or(default_value);
+}
+
+}  // namespace kavrix::JsonUtil

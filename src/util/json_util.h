@@ -1,0 +1,49 @@
+#ifndef KAVRIX_UTIL_JSON_UTIL_H_
+#define KAVRIX_UTIL_JSON_UTIL_H_
+
+#include <json/value.h>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+// The one place that calls JsonCpp. None of the readers throws but for failed allocations.
+namespace kavrix::JsonUtil {
+
+// Parses `text` with the accept set of JsonCpp's legacy reader: comments pass, and so does text after the
+// root. True when the root is an object, which is then in `root`; on false `root` holds nothing to read. A
+// text that the reader refuses by throwing (nested too deep) does not parse.
+bool ParseObject(std::string_view text, Json::Value& root);
+
+// Parses `text` strictly: no comments, nothing after the root, no key twice. On false `error` says where and
+// what.
+bool ParseStrictly(const std::string& text, Json::Value& root, std::string& error);
+
+// The member `key` of `object`; null when `object` is no object or has no such member.
+const Json::Value* Find(const Json::Value& object, std::string_view key);
+
+// The value when it is stored as an integer that fits a signed 32-bit int. A real such as 5.0 is none.
+std::optional<int> AsInt(const Json::Value& value);
+
+// The value when it is stored as an integer of any size that 64 signed bits hold.
+std::optional<std::int64_t> AsInteger(const Json::Value& value);
+
+// The value when it is a number of any kind.
+std::optional<double> AsDouble(const Json::Value& value);
+
+// The bytes of the value, NUL included, when it is a text; they live as long as the value.
+std::optional<std::string_view> AsText(const Json::Value& value);
+
+// The value as one line of JSON text, for messages.
+std::string ToText(const Json::Value& value);
+
+// The member `key` of `object` when it exists and is a text, else `default_value`.
+std::string StringValue(const Json::Value& object, const std::string& key, const std::string& default_value);
+
+// The member `key` of `object` when it exists and is stored as an integer that fits, else `default_value`.
+int IntValue(const Json::Value& object, const std::string& key, int default_value);
+
+}  // namespace kavrix::JsonUtil
+
+#endif  // KAVRIX_UTIL_JSON_UTIL_H_

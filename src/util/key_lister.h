@@ -1,0 +1,86 @@
+#ifndef KAVRIX_UTIL_KEY_LISTER_H_
+#define KAVRIX_UTIL_KEY_LISTER_H_
+
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <vector>
+
+namespace kavrix {
+
+// One thing that a resource name carries: a key of its JSON object or a named field.
+struct KeyInfo {
+  std::string key;  // "mode"; "cameras[].type" inside a list
+  std::string
+      type;  // "text", "integer", "integer, low 16 bits", "flag", "array of texts", "array of objects"
+  std::string rule;  // what a flag's integer means, such as "true when 0"; otherwise empty
+};
+
+// Runs a key list for what it names, without reading anything.
+class KeyLister {
+ public:
+  const std::vector<KeyInfo>& keys() const { return keys_; }
+
+  void Add(std::string_view key, std::string_view type, std::string_view rule = "") {
+    keys_.push_back({path_ + std::string(key), std::string(type), std::string(rule)});
+  }
+
+  template <class Member>
+  void Text(std::string_view key, Member&) {
+    Add(key, "text");
+  }
+  template <class Int>
+  void Integer(std::string_view key, Int&) {
+    Add(key, sizeof(Int) == 2 ? "integer, low 16 bits" : "integer");
+  }
+  template <class Flag>
+  void TrueWhenZero(std::string_view key, Flag&) {
+    Add(key, "flag", "true when 0");
+  }
+  template <class Flag>
+  void TrueWhenOne(std::string_view key, Flag&) {
+    Add(key, "flag", "true when 1");
+  }
+  template <class Flag>
+  void TrueWhenNonZero(std::string_view key, Flag&) {
+    Add(key, "flag", "true when not 0");
+  }
+  template <class Items, class ItemKeys>
+  void Records(std::string_view key, Items&, ItemKeys item_keys) {
+    Add(key, "array of objects");
+    path_ = std::string(key) + "[].";
+    typename Items::value_type item;
+    item_keys(*this, item);
+    path_.clear();
+  }
+  template <class Member>
+  void Texts(std::string_view key, Member&) {
+    Add(key, "array of texts");
+  }
+
+  // Fields by index, under the name that the placing side knows them by.
+  template <class Member>
+  void Text(std::size_t, const char* name, Member& member) {
+    Text(name, member);
+  }
+  template <class Int>
+  void Integer(std::size_t, const char* name, Int& number) {
+    Integer(name, number);
+  }
+  template <class Int>
+  void LeadingInteger(std::size_t, const char* name, Int&) {
+    Add(name, "integer, low 16 bits", "its leading digits, 0 where there are none");
+  }
+  template <class Flag>
+  void TrueWhenZero(std::size_t, const char* name, Flag& flag) {
+    TrueWhenZero(name, flag);
+  }
+
+ private:
+  std::vector<KeyInfo> keys_;
+  std::string path_;
+};
+
+}  // namespace kavrix
+
+#endif  // KAVRIX_UTIL_KEY_LISTER_H_

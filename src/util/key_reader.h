@@ -1,0 +1,109 @@
+#ifndef KAVRIX_UTIL_KEY_READER_H_
+#define KAVRIX_UTIL_KEY_READER_H_
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "util/json_util.h"
+#include "util/string_util.h"
+
+// A key list is a function template that names what a resource name carries, in reading order, by verbs of
+// its first argument. The readers below are what the decoder hands to it.
+namespace kavrix {
+
+// Reads from a JSON object. A key that is absent or of another type counts as holding the member's current
+// value. A value that is no object has no keys.
+class JsonKeyReader {
+ public:
+  explicit JsonKeyReader(const Json::Value& object) : object_(object) {}
+
+  void Text(std::string_view key, std::string& text) {
+    const Json::Value* const value = JsonUtil::Find(object_, key);
+    if (value == nullptr) return;
+    if (const auto found = JsonUtil::AsText(*value)) text = *found;
+  }
+
+  // Narrowed to the member's width.
+  template <class Int>
+  void Integer(std::string_view key, Int& number) {
+    number = static_cast<Int>(IntOr(key, number));
+  }
+
+  // Three rules for flags. The flag's own value, 0 or 1, stands in for an absent key: TrueWhenZero then
+  // inverts it.
+  void TrueWhenZero(std::string_view key, bool& flag) { flag = IntOr(key, flag ? 1 : 0) == 0; }
+  void TrueWhenOne(std::string_view key, bool& flag) { flag = IntOr(key, flag ? 1 : 0) == 1; }
+  void TrueWhenNonZero(std::string_view key, bool& flag) { flag = IntOr(key, flag ? 1 : 0) != 0; }
+
+  // Appends one item for each element of an array, whatever its type. `item_keys(keys, item)` is the item's
+  // key list.
+  template <class Item, class ItemKeys>
+  void Records(std::string_view key, std::vector<Item>& items, ItemKeys item_keys) {
+    const Json::Value* const array = FindArray(key);
+    if (array == nullptr) return;
+    for (const Json::Value& element : *array) {
+      Item item;
+      JsonKeyReader keys(element);
+      item_keys(keys, item);
+      items.push_back(std::move(item));
+    }
+  }
+
+  // Appends the elements of an array that are texts and passes over the others.
+  void Texts(std::string_view key, std::vector<std::string>& texts) {
+    const Json::Value* const array = FindArray(key);
+    if (array == nullptr) return;
+    for (const Json::Value& element : *array) {
+      if (const auto text = JsonUtil::AsText(element)) texts.emplace_back(*text);
+    }
+  }
+
+ private:
+  int IntOr(std::string_view key, int current) const {
+    const Json::Value* const value = JsonUtil::Find(object_, key);
+    return value == nullptr ? current : JsonUtil::AsInt(*value).value_or(current);
+  }
+
+  const Json::Value* FindArray(std::string_view key) const {
+    const Json::Value* const value = JsonUtil::Find(object_, key);
+    return value != nullptr && value->isArray() ? value : nullptr;
+  }
+
+  const Json::Value& object_;
+};
+
+// Reads the fields of a split text by index; the names are those that the placing side knows the fields by. A
+// field that does not convert leaves its member alone.
+class FieldReader {
+ public:
+  explicit FieldReader(const std::string_view* fields) : fields_(fields) {}
+
+  void Text(std::size_t index, const char*, std::string& text) { text = fields_[index]; }
+
+  // Narrowed to the member's width.
+  template <class Int>
+  void Integer(std::size_t index, const char*, Int& number) {
+    int value = 0;
+    if (StringToInt(fields_[index], &value)) number = static_cast<Int>(value);
+  }
+
+  // As atoi reads it, so a field that is no number stores 0. Narrowed to the member's width.
+  template <class Int>
+  void LeadingInteger(std::size_t index, const char*, Int& number) {
+    number = static_cast<Int>(LeadingInt(fields_[index]));
+  }
+
+  void TrueWhenZero(std::size_t index, const char*, bool& flag) {
+    int value = 0;
+    if (StringToInt(fields_[index], &value)) flag = value == 0;
+  }
+
+ private:
+  const std::string_view* fields_;
+};
+
+}  // namespace kavrix
+
+#endif  // KAVRIX_UTIL_KEY_READER_H_

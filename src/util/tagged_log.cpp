@@ -1,0 +1,80 @@
+#include "util/tagged_log.h"
+
+#include <locale>
+#include <map>
+#include <mutex>
+#include <utility>
+
+namespace kavrix::logging {
+
+std::atomic<std::uint32_t> kavrix_log_instance_id_{0};
+
+namespace {
+
+using InstancePointer = std::shared_ptr<const LoggerInstance>;
+
+// The lock covers the look-up alone: no sink and no filter runs under it.
+class InstanceTable {
+ public:
+  void Set(std::uint32_t id, InstancePointer instance) {
+    const std::lock_guard<std::mutex> lock(mutex_);
+    InstancePointer& slot = instances_[id];
+    slot.swap(instance);  // what was installed before goes with the parameter, after the lock
+    if (slot->sink == nullptr) instances_.erase(id);
+    is_empty_ = instances_.empty();
+  }
+
+  InstancePointer Find(std::uint32_t id) {
+    if (is_empty_) return nullptr;
+    const std::lock_guard<std::mutex> lock(mutex_);
+    const auto found = instances_.find(id);
+    return found == instances_.end() ? nullptr : found->second;
+  }
+
+ private:
+  std::atomic<bool> is_empty_{true};  // spares the lock where nobody logs
+  std::mutex mutex_;
+  std::map<std::uint32_t, InstancePointer> instances_;
+};
+
+InstanceTable& Instances() {
+  static InstanceTable table;
+  return table;
+}
+
+}  // namespace
+
+void SetLoggerInstance(std::uint32_t instance_id, LoggerInstance instance) {
+  Instances().Set(instance_id, std::make_shared<const LoggerInstance>(std::move(instance)));
+}
+
+bool Logger::TestLogLevelAndTag(std::uint32_t instance_id, LogLevel level, const std::string& tag) noexcept {
+  try {
+    const InstancePointer instance = Instances().Find(instance_id);
+    if (instance == nullptr || level < instance->least_level) return false;
+    return !instance->tag_filter || instance->tag_filter(tag);
+  } catch (...) {
+    return false;
+  }
+}
+
+Record::Record(LogLevel level, const char* function, unsigned long line, const char* file,
+               std::uint32_t instance_id, const std::string& tag)
+    : level_(level),
+      function_(function),
+      line_(line),
+      file_(file),
+      tag_(tag),
+      instance_(Instances().Find(instance_id)) {
+  stream_.imbue(std::locale::classic());
+}
+
+Record::~Record() {
+  if (instance_ == nullptr) return;
+  try {
+    instance_->sink->Write({level_, tag_, function_, file_, line_, stream_.str()});
+  } catch (...) {  // NOLINT(bugprone-empty-catch): a failing sink costs its record, never the decode
+  }
+}
+
+}  // namespace kavrix::logging

@@ -1,0 +1,64 @@
+#ifndef KAVRIX_UTIL_TAGGED_LOG_PLOG_H_
+#define KAVRIX_UTIL_TAGGED_LOG_PLOG_H_
+
+// Hands the library's log records to plog. The library itself is built without plog: this header compiles in
+// the client, against the client's own plog (1.0 and 1.1), so the two never disagree about plog's classes.
+
+// plog 1.0's Logger.h needs Record.h before it.
+// clang-format off
+#include <plog/Record.h>
+#include <plog/Logger.h>
+// clang-format on
+
+#include <memory>
+#include <string>
+#include <type_traits>
+
+#include "util/tagged_log.h"
+
+namespace kavrix::logging {
+
+// A sink that writes to a plog appender, or to a plog logger, which is an appender too and filters by its own
+// severity. Level 0 arrives as plog::info, level 1 as plog::error. plog has no tags: filter by tag before,
+// with LoggerInstance::tag_filter. The appender must outlive the sink and lock itself if several threads
+// decode.
+class PlogSink : public LogSink {
+ public:
+  explicit PlogSink(plog::IAppender& appender) : appender_(appender) {}
+
+  void Write(const LogRecord& record) override {
+    // plog takes a compiler's function signature and prints what stands before its parenthesis.
+    const std::string signature = std::string(record.function) + "()";
+    WriteAs<plog::Record>(record, signature.c_str());
+  }
+
+ private:
+  // The constructor grew with plog: (severity, function, line, object), then a file, then an instance id.
+  // A template, because only then the branches for other versions are left uncompiled.
+  template <class PlogRecord>
+  void WriteAs(const LogRecord& record, const char* signature) {
+    const plog::Severity severity = record.level == LogLevel::kRoutine ? plog::info : plog::error;
+    const void* const object = nullptr;
+    if constexpr (std::is_constructible_v<PlogRecord, plog::Severity, const char*, std::size_t, const char*,
+                                          const void*, int>) {
+      Deliver(PlogRecord(severity, signature, record.line, record.file, object, 0), record.message);
+    } else if constexpr (std::is_constructible_v<PlogRecord, plog::Severity, const char*, std::size_t,
+                                                 const char*, const void*>) {
+      Deliver(PlogRecord(severity, signature, record.line, record.file, object), record.message);
+    } else {
+      Deliver(PlogRecord(severity, signature, record.line, object), record.message);
+    }
+  }
+
+  template <class PlogRecord>
+  void Deliver(PlogRecord&& plog_record, const std::string& message) {
+    plog_record << message;
+    appender_.write(plog_record);
+  }
+
+  plog::IAppender& appender_;
+};
+
+}  // namespace kavrix::logging
+
+#endif  // KAVRIX_UTIL_TAGGED_LOG_PLOG_H_

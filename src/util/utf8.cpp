@@ -1,0 +1,58 @@
+#include "util/utf8.h"
+
+namespace kavrix {
+namespace {
+
+struct LeadByte {
+  std::size_t length;  // of the whole character; 0: no character begins so
+  unsigned char
+      second_low;  // the range of its second byte, narrower than that of the others where an overlong
+  unsigned char second_high;  // form, a surrogate or a number above U+10FFFF would begin
+};
+
+LeadByte LeadByteOf(unsigned char byte) {
+  if (byte < 0x80) return {1, 0, 0};
+  if (byte < 0xC2) return {0, 0, 0};
+  if (byte < 0xE0) return {2, 0x80, 0xBF};
+  if (byte < 0xF0) {
+    return {3, static_cast<unsigned char>(byte == 0xE0 ? 0xA0 : 0x80),
+            static_cast<unsigned char>(byte == 0xED ? 0x9F : 0xBF)};
+  }
+  if (byte > 0xF4) return {0, 0, 0};
+  return {4, static_cast<unsigned char>(byte == 0xF0 ? 0x90 : 0x80),
+          static_cast<unsigned char>(byte == 0xF4 ? 0x8F : 0xBF)};
+}
+
+}  // namespace
+
+Utf8Piece NextUtf8(std::string_view text) {
+  if (text.empty()) return {0, 0, true};
+  const auto first = static_cast<unsigned char>(text[0]);
+  const LeadByte lead = LeadByteOf(first);
+  if (lead.length == 0) return {1, 0, false};
+  if (lead.length == 1) return {1, first, true};
+
+  char32_t code_point = first & (0x7Fu >> lead.length);
+  for (std::size_t i = 1; i < lead.length; ++i) {
+    if (i == text.size()) return {i, 0, false};
+    const auto byte = static_cast<unsigned char>(text[i]);
+    const unsigned char low = i == 1 ? lead.second_low : 0x80;
+    const unsigned char high = i == 1 ? lead.second_high : 0xBF;
+    if (byte < low || byte > high) return {i, 0, false};
+    code_point = code_point << 6 | (byte & 0x3Fu);
+  }
+  return {lead.length, code_point, true};
+}
+
+std::string ToValidUtf8(std::string_view text) {
+  std::string valid;
+  valid.reserve(text.size());
+  while (!text.empty()) {
+    const Utf8Piece piece = NextUtf8(text);
+    valid += piece.is_valid ? text.substr(0, piece.length) : std::string_view("\xEF\xBF\xBD");
+    text.remove_prefix(piece.length);
+  }
+  return valid;
+}
+
+}  // namespace kavrix

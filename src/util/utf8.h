@@ -1,0 +1,27 @@
+#ifndef KAVRIX_UTIL_UTF8_H_
+#define KAVRIX_UTIL_UTF8_H_
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace kavrix {
+
+// What stands at the beginning of a text: one character, or bytes that are none.
+struct Utf8Piece {
+  std::size_t length;   // in bytes; 0 at the end of the text
+  char32_t code_point;  // valid pieces only
+  bool is_valid;
+};
+
+// A piece that is not valid is the longest beginning of a character that is cut short or goes on wrongly, at
+// least one byte: what Unicode recommends to replace by one U+FFFD. Surrogates and overlong forms are not
+// valid.
+Utf8Piece NextUtf8(std::string_view text);
+
+// A copy with every piece that is not valid replaced by U+FFFD.
+std::string ToValidUtf8(std::string_view text);
+
+}  // namespace kavrix
+
+#endif  // KAVRIX_UTIL_UTF8_H_
