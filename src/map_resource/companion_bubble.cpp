@@ -1,0 +1,75 @@
+// The companion bubble: how another route compares with the main one.
+//
+//   name = prefix JSON-object "@" direction ".companionBubble"
+//   keys : is_force_, time, distance, fee, light, label, mode, better, scene, scene_
+//
+// Irregular: "scene" fills the companion's own scene, "scene_" the base's. "is_force_" counts when not 0,
+// where other kinds want 1. A broken JSON text is logged under the traffic tag with the whole name, and the
+// direction behind it is then left alone; the style and the closing record come in any case. The two scales
+// are two values.
+
+#include "map_resource/bubble_kinds.h"
+#include "map_resource/map_resource_transform.h"
+#include "util/key_reader.h"
+#include "util/tagged_log.h"
+
+namespace kavrix {
+
+using logging::LogLevel;
+
+namespace {
+
+template <class Keys, class Companion>
+void CompanionKeys(Keys& keys, Companion& companion) {
+  keys.TrueWhenNonZero("is_force_", companion.is_force);
+  keys.Text("time", companion.time);
+  keys.Text("distance", companion.distance);
+  keys.Text("fee", companion.fee);
+  keys.Text("light", companion.light);
+  keys.Text("label", companion.label);
+  keys.TrueWhenZero("mode", companion.mode_flag);
+  keys.TrueWhenOne("better", companion.better);
+  keys.Integer("scene", companion.scene);
+  keys.Integer("scene_", companion.BubbleDrawDescriptor::scene);
+}
+
+std::size_t StyleWordNumber(const CompanionBubbleDrawDescriptor& companion) {
+  if (companion.mode_flag) return companion.better ? 3 : 2;
+  return companion.better ? 5 : 4;
+}
+
+}  // namespace
+
+void MapResourceTransform::ParseCompanionBubbleResourceName(const std::string& resource_name,
+                                                            std::shared_ptr<BubbleDrawDescriptor>& out) {
+  const auto companion = Publish<CompanionBubbleDrawDescriptor>(out);
+  const auto parts = SplitFields<2>(StripPrefix(resource_name), '@');
+  if (parts.count == 2) {
+    Json::Value root;
+    if (JsonUtil::ParseObject(parts.at[0], root)) {
+      JsonKeyReader keys(root);
+      CompanionKeys(keys, *companion);
+      ReadDirectionTail(parts.at[1], *companion);
+    } else {
+      KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure,
+                 "parse json failed: " << resource_name);
+    }
+  }
+
+  BubbleLayerConfigContainer config = context_->GetBubbleLayerConfigInLock();
+  auto& style = config.companion_style;
+  companion->style_word = style.Word(StyleWordNumber(*companion));
+  companion->style_name = std::move(style.name);
+  companion->style_scale = {style.Float(6), style.Float(7)};
+  KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleCompanion, LogLevel::kRoutine, *companion);
+}
+
+const BubbleKindInfo kCompanionBubbleInfo = {"CompanionBubbleDrawDescriptor", std::nullopt,
+                                             PayloadWay::kPrefixStripped, "JSON object \"@\" direction",
+                                             [](KeyLister& keys) {
+                                               CompanionBubbleDrawDescriptor companion;
+                                               CompanionKeys(keys, companion);
+                                               DirectionTail(keys, companion);
+                                             }};
+
+}  // namespace kavrix

@@ -1,0 +1,60 @@
+// The light countdown bubble: the countdown of one traffic light.
+//
+//   name = prefix JSON-object "@" direction ".lightCountdownBubble"
+//   keys : is_force_, scene, mode, id, style, light_type, turn_arrow_type, time, text
+//
+// The direction is read also behind a JSON text that is broken. The closing record comes in any case.
+
+#include "map_resource/bubble_kinds.h"
+#include "map_resource/map_resource_transform.h"
+#include "util/key_reader.h"
+#include "util/tagged_log.h"
+
+namespace kavrix {
+
+using logging::LogLevel;
+
+namespace {
+
+template <class Keys, class Light>
+void LightCountdownKeys(Keys& keys, Light& light) {
+  keys.TrueWhenOne("is_force_", light.is_force);
+  keys.Integer("scene", light.scene);
+  keys.TrueWhenZero("mode", light.mode_flag);
+  keys.Text("id", light.id);
+  keys.Integer("style", light.style);
+  keys.Integer("light_type", light.light_type);
+  keys.Integer("turn_arrow_type", light.turn_arrow_type);
+  keys.Integer("time", light.time);
+  keys.Text("text", light.text);
+}
+
+}  // namespace
+
+void MapResourceTransform::ParseLightCountdownBubbleResourceName(const std::string& resource_name,
+                                                                 std::shared_ptr<BubbleDrawDescriptor>& out) {
+  const auto light = Publish<LightCountdownTimerDrawDescriptor>(out);
+  const auto parts = SplitFields<2>(StripPrefix(resource_name), '@');
+  if (parts.count == 2) {
+    Json::Value root;
+    if (JsonUtil::ParseObject(parts.at[0], root)) {
+      JsonKeyReader keys(root);
+      LightCountdownKeys(keys, *light);
+    } else {
+      KAVRIX_LOG(LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kFailure,
+                 "parse json failed: " << parts.at[0]);
+    }
+    ReadDirectionTail(parts.at[1], *light);
+  }
+  KAVRIX_LOG(LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kRoutine, *light);
+}
+
+const BubbleKindInfo kLightCountdownBubbleInfo = {"LightCountdownTimerDrawDescriptor", std::nullopt,
+                                                  PayloadWay::kPrefixStripped, "JSON object \"@\" direction",
+                                                  [](KeyLister& keys) {
+                                                    LightCountdownTimerDrawDescriptor light;
+                                                    LightCountdownKeys(keys, light);
+                                                    DirectionTail(keys, light);
+                                                  }};
+
+}  // namespace kavrix

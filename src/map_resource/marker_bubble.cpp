@@ -1,0 +1,55 @@
+// The marker bubble: a text bubble at a map marker. Not to be mixed up with marker names, which have their
+// own entry point (marker_name.cpp).
+//
+//   name = prefix JSON-object ".markerBubble"
+//   keys : scene, mode, direction, content
+//
+// Irregular: the style is the transform's own, not the context's; a failure is logged under the traffic tag,
+// success not at all.
+
+#include "map_resource/bubble_kinds.h"
+#include "map_resource/map_resource_transform.h"
+#include "util/key_reader.h"
+#include "util/tagged_log.h"
+
+namespace kavrix {
+
+using logging::LogLevel;
+
+namespace {
+
+constexpr std::uint16_t kKindCode = 0;
+
+template <class Keys, class Descriptor>
+void MarkerBubbleKeys(Keys& keys, Descriptor& bubble) {
+  keys.Integer("scene", bubble.scene);
+  keys.TrueWhenZero("mode", bubble.mode_flag);
+  keys.Integer("direction", bubble.direction);
+  keys.Text("content", bubble.content);
+}
+
+}  // namespace
+
+void MapResourceTransform::ParseMarkerBubbleResourceName(const std::string& resource_name,
+                                                         std::shared_ptr<BubbleDrawDescriptor>& out) {
+  const auto bubble = Publish<BubbleDrawDescriptor>(out);
+  bubble->bubble_kind = kKindCode;
+  const std::string_view payload = StripPrefixAndMarker(resource_name, MarkerOf(BubbleKind::kMarker));
+  Json::Value root;
+  if (!JsonUtil::ParseObject(payload, root)) {
+    KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, "parse json failed: " << payload);
+    return;
+  }
+  JsonKeyReader keys(root);
+  MarkerBubbleKeys(keys, *bubble);
+  ApplyCommonStyle(marker_bubble_config_, *bubble);
+}
+
+const BubbleKindInfo kMarkerBubbleInfo = {"BubbleDrawDescriptor", kKindCode,
+                                          PayloadWay::kPrefixAndMarkerStripped, "JSON object",
+                                          [](KeyLister& keys) {
+                                            BubbleDrawDescriptor bubble;
+                                            MarkerBubbleKeys(keys, bubble);
+                                          }};
+
+}  // namespace kavrix

@@ -1,0 +1,69 @@
+// The multi-light countdown bubble: the countdowns of several traffic lights.
+//
+//   name = prefix JSON-object "@" direction ".multiLightCountdownBubble"
+//   keys : is_force_, scene, mode, style, id, is_animation, light_descriptors (array of light_type,
+//   turn_arrow_type,
+//          remain_time, text, total_time)
+//
+// Irregular: `type` comes from the context, before anything is read. A light without "turn_arrow_type" has
+// -1. Each element of the array gives a light, whatever its JSON type. The direction is read also behind a
+// JSON text that is broken; the tag is that of the single light.
+
+#include "map_resource/bubble_kinds.h"
+#include "map_resource/map_resource_transform.h"
+#include "util/key_reader.h"
+#include "util/tagged_log.h"
+
+namespace kavrix {
+
+using logging::LogLevel;
+
+namespace {
+
+template <class Keys, class Lights>
+void MultiLightCountdownKeys(Keys& keys, Lights& lights) {
+  keys.TrueWhenOne("is_force_", lights.is_force);
+  keys.Integer("scene", lights.scene);
+  keys.TrueWhenZero("mode", lights.mode_flag);
+  keys.Integer("style", lights.style);
+  keys.Text("id", lights.id);
+  keys.TrueWhenOne("is_animation", lights.is_animation);
+  keys.Records("light_descriptors", lights.light_descriptors, [](auto& item_keys, auto& light) {
+    item_keys.Integer("light_type", light.light_type);
+    item_keys.Integer("turn_arrow_type", light.turn_arrow_type);
+    item_keys.Integer("remain_time", light.remain_time);
+    item_keys.Text("text", light.text);
+    item_keys.Integer("total_time", light.total_time);
+  });
+}
+
+}  // namespace
+
+void MapResourceTransform::ParseMultiLightCountdownBubbleResourceName(
+    const std::string& resource_name, std::shared_ptr<BubbleDrawDescriptor>& out) {
+  const auto lights = Publish<MultiLightCountdownTimerDrawDescriptor>(out);
+  lights->type = static_cast<std::int16_t>(context_->multi_light_type.load());
+  const auto parts = SplitFields<2>(StripPrefix(resource_name), '@');
+  if (parts.count == 2) {
+    Json::Value root;
+    if (JsonUtil::ParseObject(parts.at[0], root)) {
+      JsonKeyReader keys(root);
+      MultiLightCountdownKeys(keys, *lights);
+    } else {
+      KAVRIX_LOG(LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kFailure,
+                 "parse json failed: " << parts.at[0]);
+    }
+    ReadDirectionTail(parts.at[1], *lights);
+  }
+  KAVRIX_LOG(LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kRoutine, *lights);
+}
+
+const BubbleKindInfo kMultiLightCountdownBubbleInfo = {"MultiLightCountdownTimerDrawDescriptor", std::nullopt,
+                                                       PayloadWay::kPrefixStripped,
+                                                       "JSON object \"@\" direction", [](KeyLister& keys) {
+                                                         MultiLightCountdownTimerDrawDescriptor lights;
+                                                         MultiLightCountdownKeys(keys, lights);
+                                                         DirectionTail(keys, lights);
+                                                       }};
+
+}  // namespace kavrix

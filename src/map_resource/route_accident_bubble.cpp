@@ -1,0 +1,47 @@
+// The route-accident bubble: an accident on the route.
+//
+//   name = prefix JSON-object ".RouteAccidentBubble"
+//   keys : scene, content, lan, type, direction, mode, is_force_, accident_id, severity
+//
+// The descriptor gets the whole name and finds its JSON object in it, from the first brace behind the prefix
+// to the last. No record is ever written, no style read, no kind code set; a name without a readable object
+// gives a descriptor as constructed.
+
+#include "map_resource/bubble_kinds.h"
+#include "map_resource/map_resource_transform.h"
+#include "map_resource/self_initialised_keys.h"
+#include "util/key_reader.h"
+
+namespace kavrix {
+
+namespace {
+
+template <class Keys, class Descriptor>
+void RouteAccidentKeys(Keys& keys, Descriptor& bubble) {
+  SelfInitialisedKeys(keys, bubble);
+  keys.Text("accident_id", bubble.accident_id);
+  keys.Integer("severity", bubble.severity);
+}
+
+}  // namespace
+
+bool RouteAccidentBubbleDrawDescriptor::InitWithJson(const std::string& text) {
+  Json::Value root;
+  if (!JsonUtil::ParseObject(FindJsonObject(text), root)) return false;
+  JsonKeyReader keys(root);
+  RouteAccidentKeys(keys, *this);
+  return true;
+}
+
+void MapResourceTransform::ParseRouteAccidentResourceName(const std::string& resource_name,
+                                                          std::shared_ptr<BubbleDrawDescriptor>& out) {
+  PublishInitialised<RouteAccidentBubbleDrawDescriptor>(resource_name, out);
+}
+
+const BubbleKindInfo kRouteAccidentBubbleInfo = {"RouteAccidentBubbleDrawDescriptor", std::nullopt,
+                                                 PayloadWay::kWholeName, "JSON object", [](KeyLister& keys) {
+                                                   RouteAccidentBubbleDrawDescriptor bubble;
+                                                   RouteAccidentKeys(keys, bubble);
+                                                 }};
+
+}  // namespace kavrix

@@ -1,0 +1,58 @@
+// The route-name bubble: a route's name beside the route.
+//
+//   name = prefix content "_" mode "_" scene "@" direction ".nameBubble"
+//
+// Head and tail are read independently: one of the wrong shape does not stop the other. Nothing is ever a
+// failure; what does not fit leaves its members alone, and the style is filled in any case.
+
+#include "map_resource/bubble_kinds.h"
+#include "map_resource/map_resource_transform.h"
+#include "util/key_reader.h"
+#include "util/tagged_log.h"
+
+namespace kavrix {
+
+using logging::LogLevel;
+
+namespace {
+
+constexpr std::uint16_t kKindCode = 0;
+
+template <class Fields, class Descriptor>
+void RouteNameFields(Fields& fields, Descriptor& bubble) {
+  fields.Text(0, "content", bubble.content);
+  fields.TrueWhenZero(1, "mode", bubble.mode_flag);
+  fields.Integer(2, "scene", bubble.scene);
+}
+
+}  // namespace
+
+void MapResourceTransform::ParseRouteNameBubbleResourceName(const std::string& resource_name,
+                                                            std::shared_ptr<BubbleDrawDescriptor>& out) {
+  const auto bubble = Publish<BubbleDrawDescriptor>(out);
+  bubble->bubble_kind = kKindCode;
+  const auto parts = SplitFields<2>(StripPrefix(resource_name), '@');
+  if (parts.count == 2) {
+    const auto fields = SplitFields<3>(parts.at[0], '_');
+    if (fields.count == 3) {
+      FieldReader reader(fields.at.data());
+      RouteNameFields(reader, *bubble);
+    }
+    ReadDirectionTail(parts.at[1], *bubble);
+  }
+
+  BubbleLayerConfigContainer config = context_->GetBubbleLayerConfigInLock();
+  ApplyCommonStyle(std::move(bubble->scene == 0 ? config.route_name_style : config.route_name_scene_style),
+                   *bubble);
+  KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleName, LogLevel::kRoutine, *bubble);
+}
+
+const BubbleKindInfo kRouteNameBubbleInfo = {"BubbleDrawDescriptor", kKindCode, PayloadWay::kPrefixStripped,
+                                             "content \"_\" mode \"_\" scene \"@\" direction",
+                                             [](KeyLister& keys) {
+                                               BubbleDrawDescriptor bubble;
+                                               RouteNameFields(keys, bubble);
+                                               DirectionTail(keys, bubble);
+                                             }};
+
+}  // namespace kavrix

@@ -1,0 +1,57 @@
+// The turn bubble: the next manoeuvre, an arrow with the distance to it.
+//
+//   name = prefix JSON-object ".turnBubble"
+//   keys : is_force_, type, direction, mode, scene, lan, distance
+//
+// Irregular: the request is logged before anything is read (the one record of this kind), a broken payload
+// not at all. The kind code is written once the payload is cut, so a name shorter than the prefix leaves it
+// 0. The style name is there whether or not the payload parses.
+
+#include "map_resource/bubble_kinds.h"
+#include "map_resource/map_resource_transform.h"
+#include "util/key_reader.h"
+#include "util/tagged_log.h"
+
+namespace kavrix {
+
+using logging::LogLevel;
+
+namespace {
+
+constexpr std::uint16_t kKindCode = 10;
+
+template <class Keys, class Turn>
+void TurnKeys(Keys& keys, Turn& turn) {
+  keys.TrueWhenOne("is_force_", turn.is_force);
+  keys.Integer("type", turn.type);
+  keys.Integer("direction", turn.direction);
+  keys.TrueWhenZero("mode", turn.mode_flag);
+  keys.Integer("scene", turn.scene);
+  keys.Text("lan", turn.lan);
+  keys.Integer("distance", turn.distance);
+}
+
+}  // namespace
+
+void MapResourceTransform::ParseTurnBubbleResourceName(const std::string& resource_name,
+                                                       std::shared_ptr<BubbleDrawDescriptor>& out) {
+  KAVRIX_LOG(LogTagKavrixMapLayerMgr_TurnArrow, LogLevel::kRoutine, " resource_name:" << resource_name);
+  const auto turn = Publish<TurnArrowBubbleDrawDescriptor>(out);
+  const std::string_view payload = StripPrefixAndMarker(resource_name, MarkerOf(BubbleKind::kTurn));
+  turn->bubble_kind = kKindCode;
+  turn->style_name = std::move(context_->GetBubbleLayerConfigInLock().turn_style.name);
+
+  Json::Value root;
+  if (!JsonUtil::ParseObject(payload, root)) return;
+  JsonKeyReader keys(root);
+  TurnKeys(keys, *turn);
+}
+
+const BubbleKindInfo kTurnBubbleInfo = {"TurnArrowBubbleDrawDescriptor", kKindCode,
+                                        PayloadWay::kPrefixAndMarkerStripped, "JSON object",
+                                        [](KeyLister& keys) {
+                                          TurnArrowBubbleDrawDescriptor turn;
+                                          TurnKeys(keys, turn);
+                                        }};
+
+}  // namespace kavrix

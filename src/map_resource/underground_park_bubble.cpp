@@ -1,0 +1,54 @@
+// The underground-park bubble: an underground car park.
+//
+//   name = prefix JSON-object ".UndergroundParkBubble"
+//   keys : lan, mode, direction, name
+//
+// Irregular: "name" fills the content. The payload of every good name is logged, at the level of failures.
+
+#include "map_resource/bubble_kinds.h"
+#include "map_resource/map_resource_transform.h"
+#include "util/key_reader.h"
+#include "util/tagged_log.h"
+
+namespace kavrix {
+
+using logging::LogLevel;
+
+namespace {
+
+constexpr std::uint16_t kKindCode = 25;
+
+template <class Keys, class Descriptor>
+void UndergroundParkKeys(Keys& keys, Descriptor& bubble) {
+  keys.Text("lan", bubble.lan);
+  keys.TrueWhenZero("mode", bubble.mode_flag);
+  keys.Integer("direction", bubble.direction);
+  keys.Text("name", bubble.content);
+}
+
+}  // namespace
+
+void MapResourceTransform::ParseUndergroundParkBubbleResourceName(
+    const std::string& resource_name, std::shared_ptr<BubbleDrawDescriptor>& out) {
+  const auto bubble = Publish<BubbleDrawDescriptor>(out);
+  bubble->bubble_kind = kKindCode;
+  const std::string_view payload =
+      StripPrefixAndMarker(resource_name, MarkerOf(BubbleKind::kUndergroundPark));
+  Json::Value root;
+  if (!JsonUtil::ParseObject(payload, root)) {
+    KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, "parse json failed: " << payload);
+    return;
+  }
+  KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, payload);
+  JsonKeyReader keys(root);
+  UndergroundParkKeys(keys, *bubble);
+}
+
+const BubbleKindInfo kUndergroundParkBubbleInfo = {"BubbleDrawDescriptor", kKindCode,
+                                                   PayloadWay::kPrefixAndMarkerStripped, "JSON object",
+                                                   [](KeyLister& keys) {
+                                                     BubbleDrawDescriptor bubble;
+                                                     UndergroundParkKeys(keys, bubble);
+                                                   }};
+
+}  // namespace kavrix

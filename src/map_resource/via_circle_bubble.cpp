@@ -1,0 +1,59 @@
+// The via-circle bubble: the numbered circle at an intermediate stop.
+//
+//   name = prefix JSON-object ".viaCircleBubble"
+//   keys : scene, lan, mode, direction, route_id, index, is_selected, is_reached, is_main_map, resource_id
+//
+// Irregular: its three flags count when not 0, where "is_force_" and the like want 1. A failure is logged
+// under the traffic tag, success not at all.
+
+#include "map_resource/bubble_kinds.h"
+#include "map_resource/map_resource_transform.h"
+#include "util/key_reader.h"
+#include "util/tagged_log.h"
+
+namespace kavrix {
+
+using logging::LogLevel;
+
+namespace {
+
+constexpr std::uint16_t kKindCode = 20;
+
+template <class Keys, class Via>
+void ViaCircleKeys(Keys& keys, Via& via) {
+  keys.Integer("scene", via.scene);
+  keys.Text("lan", via.lan);
+  keys.TrueWhenZero("mode", via.mode_flag);
+  keys.Integer("direction", via.direction);
+  keys.Text("route_id", via.route_id);
+  keys.Integer("index", via.index);
+  keys.TrueWhenNonZero("is_selected", via.is_selected);
+  keys.TrueWhenNonZero("is_reached", via.is_reached);
+  keys.TrueWhenNonZero("is_main_map", via.is_main_map);
+  keys.Integer("resource_id", via.resource_id);
+}
+
+}  // namespace
+
+void MapResourceTransform::ParseViaCircleBubbleResourceName(const std::string& resource_name,
+                                                            std::shared_ptr<BubbleDrawDescriptor>& out) {
+  const auto via = Publish<ViaPointDrawDescriptor>(out);
+  via->bubble_kind = kKindCode;
+  const std::string_view payload = StripPrefixAndMarker(resource_name, MarkerOf(BubbleKind::kViaCircle));
+  Json::Value root;
+  if (!JsonUtil::ParseObject(payload, root)) {
+    KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, "parse json failed: " << payload);
+    return;
+  }
+  JsonKeyReader keys(root);
+  ViaCircleKeys(keys, *via);
+}
+
+const BubbleKindInfo kViaCircleBubbleInfo = {"ViaPointDrawDescriptor", kKindCode,
+                                             PayloadWay::kPrefixAndMarkerStripped, "JSON object",
+                                             [](KeyLister& keys) {
+                                               ViaPointDrawDescriptor via;
+                                               ViaCircleKeys(keys, via);
+                                             }};
+
+}  // namespace kavrix
