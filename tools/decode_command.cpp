@@ -1,0 +1,104 @@
+#include "tools/decode_command.h"
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "config/bubble_layer_config_file.h"
+#include "map_resource/map_resource_manager.h"
+#include "tools/decoding.h"
+#include "tools/json_output.h"
+#include "tools/samples.h"
+#include "tools/streams.h"
+#include "tools/text_output.h"
+
+namespace kavrix::tools {
+namespace {
+
+struct DecodeOptions {
+  std::vector<std::string> names;
+  std::string format;
+  std::string config_path;
+  std::optional<std::string> prefix;
+  std::optional<std::string> context_name;
+  bool marker = false;
+  bool null_delimited = false;
+  bool unbuffered = false;
+  bool all_members = false;
+};
+
+std::shared_ptr<KavrixContext> MakeContext(const DecodeOptions& options) {
+  BubbleLayerConfigFile file;
+  if (options.config_path.empty()) {
+    file = ParseBubbleLayerConfig(kDefaultConfig);
+  } else {
+    const std::string text = ReadFile(options.config_path);
+    try {
+      file = ParseBubbleLayerConfig(text);
+    } catch (const ConfigError& error) {
+      throw ConfigError(options.config_path + ": " + error.what());
+    }
+  }
+  auto context = std::make_shared<KavrixContext>(options.context_name.value_or(file.context_name));
+  context->multi_light_type = file.multi_light_type;
+  context->SetBubbleLayerConfig(std::move(file.bubble_layer));
+  return context;
+}
+
+int Run(const DecodeOptions& options) {
+  if (options.prefix) MapResourceManager::kavrix_resource_prefix = options.prefix->c_str();
+  Decoder decoder(MakeContext(options), options.marker ? NameType::kMarker : NameType::kBubble);
+
+  const bool to_terminal = isatty(STDOUT_FILENO) != 0;
+  const bool as_text = options.format == "text" || (options.format.empty() && to_terminal);
+  const char* const no_colour = std::getenv("NO_COLOR");
+  const TextOptions text_options = {options.all_members,
+                                    to_terminal && (no_colour == nullptr || *no_colour == '\0')};
+  Output output(options.unbuffered || to_terminal);
+
+  int status = 0;
+  const auto decode = [&](std::string name) {
+    const Decoded decoded = decoder.Decode(std::move(name));
+    if (decoded.failed) status = 1;
+    output.Write(as_text ? ToText(decoded, text_options) : ToJsonLine(decoded));
+  };
+
+  if (options.names.empty()) {
+    NameInput input(options.null_delimited ? '\0' : '\n');
+    for (std::string name; input.Next(name);) decode(std::move(name));
+  }
+  for (const std::string& name : options.names) decode(name);
+  output.Flush();
+  return status;
+}
+
+}  // namespace
+
+void AddDecodeCommand(CLI::App& app, int& status) {
+  const auto options = std::make_shared<DecodeOptions>();
+  CLI::App* const command =
+      app.add_subcommand("decode", "Decode resource names and show all that comes of them");
+  command->add_option("NAME", options->names, "Resource names; without any, one a line from standard input");
+  command
+      ->add_option("--format", options->format,
+                   "text (on a terminal) or json, one object a line (when piped)")
+      ->check(CLI::IsMember({"text", "json"}));
+  command->add_option("--config", options->config_path,
+                      "Configuration file; without it, the built-in default");
+  command->add_option("--prefix", options->prefix, "Prefix of the names instead of kavrix://resource/");
+  command->add_option("--context-name", options->context_name, "Context name in the log records");
+  command->add_flag("--marker", options->marker, "The names are marker names, not bubble names");
+  command->add_flag("--null", options->null_delimited, "Names on standard input end in NUL, not newline");
+  command->add_flag("--unbuffered", options->unbuffered, "Write each result as soon as it is there");
+  command->add_flag("--all", options->all_members, "In text, show members that hold their defaults too");
+  command->footer(
+      "Exit status: 0 every name decoded, 1 some name failed (no marker, a payload that does not\n"
+      "parse, an exception), 2 usage or input/output trouble. A failed name never stops the others.\n"
+      "A name that begins with a dash goes behind \"--\".");
+  command->callback([options, &status] { status = Run(*options); });
+}
+
+}  // namespace kavrix::tools

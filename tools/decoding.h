@@ -1,0 +1,53 @@
+#ifndef KAVRIX_TOOLS_DECODING_H_
+#define KAVRIX_TOOLS_DECODING_H_
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "map_resource/bubble_markers.h"
+#include "map_resource/map_resource_transform.h"
+
+namespace kavrix::tools {
+
+struct CapturedRecord {
+  int level;
+  std::string tag;
+  std::string function;
+  std::string message;
+};
+
+// All that came of one name.
+struct Decoded {
+  std::string name;
+  std::optional<BubbleKind> kind;                    // none: no marker, or a marker name
+  std::shared_ptr<BubbleDrawDescriptor> descriptor;  // null: `out` was left untouched
+  std::vector<CapturedRecord> records;
+  std::optional<std::string> exception;
+  bool failed = false;  // no marker, a record of a failed parse, or an exception
+};
+
+enum class NameType { kBubble, kMarker };
+
+// Decodes names as a client would, with every log record captured. Installs itself as the process's log sink.
+class Decoder {
+ public:
+  Decoder(std::shared_ptr<KavrixContext> context, NameType name_type);
+
+  Decoded Decode(std::string name);
+
+ private:
+  MapResourceTransform transform_;
+  std::string record_head_;
+  NameType name_type_;
+};
+
+// The configuration record that a bubble's style came from, by member name; empty when there is none. Found
+// by decoding the name once more under a configuration whose records are named after themselves, without
+// records.
+std::string StyleRecordUsed(const std::string& name);
+
+}  // namespace kavrix::tools
+
+#endif  // KAVRIX_TOOLS_DECODING_H_

@@ -1,0 +1,28 @@
+#include "tools/json_writer.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+#include "util/utf8.h"
+
+namespace kavrix::tools {
+
+void JsonWriter::Real(float value) {
+  if (!std::isfinite(value)) return Null();
+  std::array<char, 32> text{};
+  const char* const end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
+  writer_.RawValue(text.data(), static_cast<std::size_t>(end - text.data()), rapidjson::kNumberType);
+}
+
+void JsonWriter::Text(std::string_view text) {
+  const std::string valid = ToValidUtf8(text);
+  writer_.String(valid.data(), static_cast<rapidjson::SizeType>(valid.size()));
+}
+
+std::string JsonWriter::TakeLine() {
+  buffer_.Put('\n');
+  return {buffer_.GetString(), buffer_.GetSize()};
+}
+
+}  // namespace kavrix::tools

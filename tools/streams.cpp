@@ -1,0 +1,68 @@
+#include "tools/streams.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+
+namespace kavrix::tools {
+namespace {
+
+[[noreturn]] void Fail(const std::string& what, int error) {
+  throw StreamError(what + ": " + std::strerror(error));
+}
+
+}  // namespace
+
+std::string ReadFile(const std::string& path) {
+  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"), std::fclose);
+  if (file == nullptr) Fail("cannot open " + path, errno);
+  std::string text;
+  std::vector<char> buffer(1 << 16);
+  while (const std::size_t size = std::fread(buffer.data(), 1, buffer.size(), file.get())) {
+    text.append(buffer.data(), size);
+  }
+  if (std::ferror(file.get()) != 0) Fail("cannot read " + path, errno);
+  return text;
+}
+
+bool NameInput::Fill() {
+  ssize_t size = 0;
+  do {
+    size = ::read(STDIN_FILENO, buffer_.data(), buffer_.size());
+  } while (size < 0 && errno == EINTR);
+  if (size < 0) Fail("cannot read standard input", errno);
+  unread_ = std::string_view(buffer_.data(), static_cast<std::size_t>(size));
+  return size > 0;
+}
+
+bool NameInput::Next(std::string& name) {
+  name.clear();
+  if (unread_.empty() && !Fill()) return false;
+  for (;;) {
+    const std::size_t end = unread_.find(delimiter_);
+    name += unread_.substr(0, end);
+    if (end != std::string_view::npos) {
+      unread_.remove_prefix(end + 1);
+      break;
+    }
+    unread_ = {};
+    if (!Fill()) break;
+  }
+  if (delimiter_ == '\n' && !name.empty() && name.back() == '\r') name.pop_back();
+  return true;
+}
+
+void Output::Write(std::string_view text) {
+  if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size())
+    Fail("cannot write standard output", errno);
+  if (flush_each_write_) Flush();
+}
+
+void Output::Flush() {
+  if (std::fflush(stdout) != 0) Fail("cannot write standard output", errno);
+}
+
+}  // namespace kavrix::tools

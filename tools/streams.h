@@ -1,0 +1,52 @@
+#ifndef KAVRIX_TOOLS_STREAMS_H_
+#define KAVRIX_TOOLS_STREAMS_H_
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kavrix::tools {
+
+// A file or stream that could not be read or written; the text says which and why.
+class StreamError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// The whole file. Throws StreamError.
+std::string ReadFile(const std::string& path);
+
+// Standard input as a sequence of names, each ended by the delimiter or by the end of the input. A name that
+// ends in newline loses a '\r' before it. Memory does not grow with the length of the input, only with that
+// of a name.
+class NameInput {
+ public:
+  explicit NameInput(char delimiter) : delimiter_(delimiter), buffer_(1 << 16) {}
+
+  // False at the end of the input. Throws StreamError.
+  bool Next(std::string& name);
+
+ private:
+  bool Fill();
+
+  char delimiter_;
+  std::vector<char> buffer_;
+  std::string_view unread_;
+};
+
+// Standard output, buffered; what could not be written throws StreamError, at the latest in Flush.
+class Output {
+ public:
+  explicit Output(bool flush_each_write) : flush_each_write_(flush_each_write) {}
+
+  void Write(std::string_view text);
+  void Flush();
+
+ private:
+  bool flush_each_write_;
+};
+
+}  // namespace kavrix::tools
+
+#endif  // KAVRIX_TOOLS_STREAMS_H_

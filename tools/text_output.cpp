@@ -1,0 +1,123 @@
+#include "tools/text_output.h"
+
+#include <fmt/color.h>
+#include <fmt/format.h>
+
+#include <algorithm>
+
+#include "descriptors/flat_members.h"
+#include "util/utf8.h"
+
+namespace kavrix::tools {
+namespace {
+
+// C0, DEL, C1, and the line and direction controls that would let a text rearrange the terminal.
+bool IsControl(char32_t c) {
+  return c < 0x20 || (c >= 0x7F && c < 0xA0) || c == 0x200E || c == 0x200F || (c >= 0x2028 && c <= 0x202E) ||
+         (c >= 0x2066 && c <= 0x2069);
+}
+
+std::string Escape(char32_t c) {
+  if (c == '\n') return "\\n";
+  if (c == '\t') return "\\t";
+  if (c == '\r') return "\\r";
+  return fmt::format("\\u{:04x}", static_cast<std::uint32_t>(c));
+}
+
+class Page {
+ public:
+  explicit Page(const TextOptions& options) : options_(options) {}
+
+  void Headline(std::string_view text) { text_ += Styled(fmt::emphasis::bold, Printable(text)) + "\n"; }
+  void Line(std::string_view label, std::string_view value) {
+    text_ += fmt::format("  {:<10}  {}\n", label, value);
+  }
+  void Indented(std::string_view text) { text_ += fmt::format("    {}\n", text); }
+  std::string Styled(const fmt::text_style& style, const std::string& text) const {
+    return options_.colour ? fmt::format(style, "{}", text) : text;
+  }
+  std::string Bad(const std::string& text) const { return Styled(fmt::fg(fmt::terminal_color::red), text); }
+  std::string Dim(const std::string& text) const { return Styled(fmt::emphasis::faint, text); }
+  std::string Take() { return std::move(text_); }
+
+ private:
+  const TextOptions& options_;
+  std::string text_;
+};
+
+std::string ValueText(const FlatMember& member) {
+  if (const auto* text = std::get_if<std::string>(&member.value)) return "\"" + Printable(*text) + "\"";
+  if (const auto* number = std::get_if<std::int64_t>(&member.value)) {
+    const bool is_word = member.path.find("style_") == 0 || member.path.find("_style_") != std::string::npos;
+    return is_word ? fmt::format("{} ({:#010x})", *number, *number) : std::to_string(*number);
+  }
+  if (const auto* flag = std::get_if<bool>(&member.value)) return *flag ? "true" : "false";
+  return fmt::format("{}", std::get<float>(member.value));
+}
+
+void AddMembers(const BubbleDrawDescriptor& descriptor, const TextOptions& options, Page& page) {
+  std::vector<FlatMember> members = FlatMembers(descriptor);
+  const auto hidden = [&](const FlatMember& member) {
+    const bool in_record = member.path.find("].") != std::string::npos;
+    return !options.all_members && !in_record && IsDefault(member);
+  };
+  members.erase(std::remove_if(members.begin(), members.end(), hidden), members.end());
+  std::size_t width = 0;
+  for (const FlatMember& member : members) width = std::max(width, member.path.size());
+  for (const FlatMember& member : members) {
+    page.Indented(fmt::format("{:<{}}  {}", member.path, width, ValueText(member)));
+  }
+}
+
+void AddRecords(const std::vector<CapturedRecord>& records, Page& page) {
+  page.Line("records", records.empty() ? page.Dim("none") : "");
+  std::size_t tag_width = 0;
+  std::size_t function_width = 0;
+  for (const CapturedRecord& record : records) {
+    tag_width = std::max(tag_width, record.tag.size());
+    function_width = std::max(function_width, record.function.size());
+  }
+  for (const CapturedRecord& record : records) {
+    const std::string level = std::to_string(record.level);
+    page.Indented(fmt::format("{}  {:<{}}  {:<{}}  {}", record.level == 0 ? level : page.Bad(level),
+                              record.tag, tag_width, record.function, function_width,
+                              Printable(record.message)));
+  }
+}
+
+}  // namespace
+
+std::string Printable(std::string_view text) {
+  std::string printable;
+  while (!text.empty()) {
+    const Utf8Piece piece = NextUtf8(text);
+    if (!piece.is_valid) {
+      printable += "\xEF\xBF\xBD";
+    } else if (IsControl(piece.code_point)) {
+      printable += Escape(piece.code_point);
+    } else {
+      printable += text.substr(0, piece.length);
+    }
+    text.remove_prefix(piece.length);
+  }
+  return printable;
+}
+
+std::string ToText(const Decoded& decoded, const TextOptions& options) {
+  Page page(options);
+  page.Headline(decoded.name);
+  page.Line("kind", decoded.kind ? std::string(MarkerOf(*decoded.kind).substr(1)) : page.Dim("none"));
+  if (decoded.exception) page.Line("exception", page.Bad(*decoded.exception));
+  if (decoded.descriptor == nullptr) {
+    page.Line("descriptor", page.Dim("none, out was left untouched"));
+  } else {
+    page.Line("descriptor", decoded.descriptor->TypeName());
+    AddMembers(*decoded.descriptor, options, page);
+    const std::string style = decoded.kind ? StyleRecordUsed(decoded.name) : "";
+    page.Line("style", style.empty() ? page.Dim("none from the configuration") : style);
+  }
+  AddRecords(decoded.records, page);
+  return page.Take();
+}
+
+}  // namespace kavrix::tools
