@@ -1,0 +1,126 @@
+#ifndef KAVRIX_TESTS_SUPPORT_DECODE_TEST_H_
+#define KAVRIX_TESTS_SUPPORT_DECODE_TEST_H_
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "map_resource/map_resource_manager.h"
+#include "map_resource/map_resource_transform.h"
+#include "tests/support/record_collector.h"
+
+namespace kavrix::test {
+
+// Counts the snapshots that parsers take.
+class CountingContext : public KavrixContext {
+ public:
+  using KavrixContext::KavrixContext;
+  BubbleLayerConfigContainer GetBubbleLayerConfigInLock() const override {
+    ++snapshots;
+    return KavrixContext::GetBubbleLayerConfigInLock();
+  }
+  mutable int snapshots = 0;
+};
+
+// The word that value `number` of record `record` (1 to 21) holds in a DecodeTest: no two are the same.
+constexpr std::uint32_t WordOf(std::uint32_t record, std::uint32_t number) { return record * 1000 + number; }
+
+// The float that a cell holds where a kind reads it as one: see SetFloats.
+constexpr float FloatOf(int record, int number) {
+  return static_cast<float>(record) * 100 + static_cast<float>(number) + 0.5F;
+}
+
+// Decodes names on a context named "ctx" whose style records are named after themselves ("traffic_style") and
+// hold WordOf, or FloatOf where floats are read.
+class DecodeTest : public ::testing::Test {
+ protected:
+  DecodeTest() { context_->SetBubbleLayerConfig(MakeConfig()); }
+
+  // Decodes prefix + `rest`; the records of the dispatcher and of the parser are in records().
+  void Decode(const std::string& rest) { DecodeWhole(MapResourceManager::kavrix_resource_prefix + rest); }
+  void DecodeWhole(const std::string& name) {
+    name_ = name;
+    collector_.Clear();
+    context_->snapshots = 0;
+    transform_.GetBubbleDrawDescriptor(name, out_);
+  }
+
+  // What `out` holds, as the type that it must have.
+  template <class Descriptor>
+  const Descriptor& Out() const {
+    const auto* const descriptor = dynamic_cast<const Descriptor*>(out_.get());
+    if (descriptor == nullptr) throw std::logic_error("out does not hold the expected type");
+    return *descriptor;
+  }
+  const BubbleDrawDescriptor& Base() const { return Out<BubbleDrawDescriptor>(); }
+
+  // The record that the dispatcher writes first for every name.
+  SeenRecord Request() const {
+    return Routine("KavrixMapLayerMgr", "GetBubbleDrawDescriptor", "resource_name:" + name_);
+  }
+  static SeenRecord Routine(const std::string& tag, const std::string& function, const std::string& message) {
+    return {0, tag, function, "[Kavrix][ctx]" + message};
+  }
+  static SeenRecord Failure(const std::string& tag, const std::string& function, const std::string& message) {
+    return {1, tag, function, "[Kavrix][ctx]" + message};
+  }
+
+  // What a descriptor prints inside a record.
+  template <class Descriptor>
+  static std::string Printed(const Descriptor& descriptor) {
+    std::ostringstream stream;
+    stream << std::fixed << std::setprecision(6) << descriptor;
+    return stream.str();
+  }
+
+  const std::vector<SeenRecord>& records() const { return collector_.records(); }
+  int snapshots() const { return context_->snapshots; }
+
+  static BubbleLayerConfigContainer MakeConfig() {
+    BubbleLayerConfigContainer config;
+    std::uint32_t record_number = 0;
+    ForEachStyleRecord(config, [&](const char* name, auto& record) {
+      ++record_number;
+      record.name = name;
+      for (std::uint32_t number = 1; number <= record.kValueCount; ++number) {
+        record.SetWord(number, WordOf(record_number, number));
+      }
+    });
+    SetFloats(config.route_name_style, 1, {3});
+    SetFloats(config.traffic_style, 2, {3, 4, 5, 6, 8, 9, 10});
+    SetFloats(config.companion_style, 3, {6, 7});
+    SetFloats(config.eta_style, 5, {2, 8});
+    SetFloats(config.eta_scene_style, 6, {2, 8});
+    SetFloats(config.route_label_style, 7, {4});
+    SetFloats(config.traffic_nav_style, 9, {3, 4, 5, 6, 8, 9, 10});
+    SetFloats(config.route_name_scene_style, 10, {3});
+    SetFloats(config.hd_long_solid_style, 14, {3});
+    SetFloats(config.indoor_entries_style, 16, {3});
+    SetFloats(config.light_wait_style, 17, {3});
+    SetFloats(config.traffic_scene_style, 21, {3, 4, 5, 6, 8, 9, 10});
+    return config;
+  }
+
+  std::shared_ptr<CountingContext> context_ = std::make_shared<CountingContext>("ctx");
+  MapResourceTransform transform_{context_};
+  std::shared_ptr<BubbleDrawDescriptor> out_;
+  std::string name_;
+  RecordCollector collector_;
+
+ private:
+  template <class Record>
+  static void SetFloats(Record& record, int record_number, std::initializer_list<int> numbers) {
+    for (const int number : numbers) {
+      record.SetFloat(static_cast<std::size_t>(number), FloatOf(record_number, number));
+    }
+  }
+};
+
+}  // namespace kavrix::test
+
+#endif  // KAVRIX_TESTS_SUPPORT_DECODE_TEST_H_
