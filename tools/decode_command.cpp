@@ -1,17 +1,15 @@
 #include "tools/decode_command.h"
 
-#include <unistd.h>
-
 #include <cstdlib>
 #include <memory>
 #include <optional>
 #include <utility>
 
-#include "config/bubble_layer_config_file.h"
 #include "map_resource/map_resource_manager.h"
+#include "tools/context.h"
 #include "tools/decoding.h"
+#include "tools/format_option.h"
 #include "tools/json_output.h"
-#include "tools/samples.h"
 #include "tools/streams.h"
 #include "tools/text_output.h"
 
@@ -21,7 +19,7 @@ namespace {
 struct DecodeOptions {
   std::vector<std::string> names;
   std::string format;
-  std::string config_path;
+  std::optional<std::string> config_path;
   std::optional<std::string> prefix;
   std::optional<std::string> context_name;
   bool marker = false;
@@ -30,34 +28,17 @@ struct DecodeOptions {
   bool all_members = false;
 };
 
-std::shared_ptr<KavrixContext> MakeContext(const DecodeOptions& options) {
-  BubbleLayerConfigFile file;
-  if (options.config_path.empty()) {
-    file = ParseBubbleLayerConfig(kDefaultConfig);
-  } else {
-    const std::string text = ReadFile(options.config_path);
-    try {
-      file = ParseBubbleLayerConfig(text);
-    } catch (const ConfigError& error) {
-      throw ConfigError(options.config_path + ": " + error.what());
-    }
-  }
-  auto context = std::make_shared<KavrixContext>(options.context_name.value_or(file.context_name));
-  context->multi_light_type = file.multi_light_type;
-  context->SetBubbleLayerConfig(std::move(file.bubble_layer));
-  return context;
-}
-
 int Run(const DecodeOptions& options) {
   if (options.prefix) MapResourceManager::kavrix_resource_prefix = options.prefix->c_str();
-  Decoder decoder(MakeContext(options), options.marker ? NameType::kMarker : NameType::kBubble);
+  const auto context = options.config_path ? MakeContext(*options.config_path, options.context_name)
+                                           : MakeDefaultContext(options.context_name);
+  Decoder decoder(context, options.marker ? NameType::kMarker : NameType::kBubble);
 
-  const bool to_terminal = isatty(STDOUT_FILENO) != 0;
-  const bool as_text = options.format == "text" || (options.format.empty() && to_terminal);
+  const bool as_text = options.format == "text";
   const char* const no_colour = std::getenv("NO_COLOR");
-  const TextOptions text_options = {options.all_members,
-                                    to_terminal && (no_colour == nullptr || *no_colour == '\0')};
-  Output output(options.unbuffered || to_terminal);
+  const bool colour = ToTerminal() && (no_colour == nullptr || *no_colour == '\0');
+  const TextOptions text_options = {options.all_members, colour};
+  Output output(options.unbuffered || ToTerminal());
 
   int status = 0;
   const auto decode = [&](std::string name) {

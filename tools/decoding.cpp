@@ -27,7 +27,7 @@ bool TellsOfFailedParse(const CapturedRecord& record, const std::string& head) {
 
 }  // namespace
 
-Decoder::Decoder(std::shared_ptr<KavrixContext> context, NameType name_type)
+Decoder::Decoder(const std::shared_ptr<KavrixContext>& context, NameType name_type)
     : transform_(context), record_head_("[Kavrix][" + context->context_name + "]"), name_type_(name_type) {
   logging::SetLoggerInstance(logging::kavrix_log_instance_id_, {std::make_shared<CapturingSink>(), {}, {}});
 }

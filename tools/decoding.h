@@ -33,7 +33,7 @@ enum class NameType { kBubble, kMarker };
 // Decodes names as a client would, with every log record captured. Installs itself as the process's log sink.
 class Decoder {
  public:
-  Decoder(std::shared_ptr<KavrixContext> context, NameType name_type);
+  Decoder(const std::shared_ptr<KavrixContext>& context, NameType name_type);
 
   Decoded Decode(std::string name);
 

@@ -1,13 +1,14 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <csignal>
-#include <cstdio>
 #include <exception>
 #include <iostream>
 #include <string>
 #include <vector>
 
 #include "tools/decode_command.h"
+#include "tools/icons_command.h"
+#include "tools/kinds_command.h"
 #include "tools/streams.h"
 
 namespace {
@@ -60,6 +61,8 @@ int Run(int argc, char** argv) {
   app.require_subcommand(1);
   int status = 0;
   kavrix::tools::AddDecodeCommand(app, status);
+  kavrix::tools::AddKindsCommand(app, status);
+  kavrix::tools::AddIconsCommand(app, status);
   UnmarkNames(app);
   try {
     app.parse(MarkNames(argc, argv));
@@ -72,11 +75,11 @@ int Run(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  std::signal(SIGPIPE, SIG_IGN);  // a closed pipe is then an error of the write
+  (void)std::signal(SIGPIPE, SIG_IGN);  // a closed pipe is then an error of the write
   try {
     return Run(argc, argv);
   } catch (const std::exception& error) {
-    std::fprintf(stderr, "kavrix-resource: %s\n", error.what());
+    std::cerr << "kavrix-resource: " << error.what() << '\n';
     return kTrouble;
   }
 }

@@ -52,6 +52,10 @@ std::string Found(const Json::Value& value) {
   throw ConfigError(where + ": expected " + expected + ", found " + Found(found));
 }
 
+[[noreturn]] void FailUnknown(const std::string& where, const std::string& key, const std::string& expected) {
+  throw ConfigError(where + ": unknown key \"" + key + "\", expected " + expected);
+}
+
 void RequireObject(const std::string& where, const Json::Value& value) {
   if (!value.isObject()) Fail(where, "an object", value);
 }
@@ -116,7 +120,7 @@ void ReadRecord(const std::string& record_name, const Json::Value& json, Record&
     } else if (key == "values") {
       ReadValues(record_name, json[key], record);
     } else {
-      throw ConfigError(record_name + ": unknown key \"" + key + "\", expected \"name\" or \"values\"");
+      FailUnknown(record_name, key, "\"name\" or \"values\"");
     }
   }
 }
@@ -130,7 +134,7 @@ void ReadBubbleLayer(const Json::Value& json, BubbleLayerConfigContainer& config
       known = true;
       ReadRecord(key, json[key], record);
     });
-    if (!known) throw ConfigError("bubble_layer: unknown record \"" + key + "\"");
+    if (!known) FailUnknown("bubble_layer", key, "a record such as \"traffic_style\"");
   }
 }
 
@@ -158,8 +162,7 @@ BubbleLayerConfigFile ParseBubbleLayerConfig(const std::string& json_text) {
     } else if (key == "bubble_layer") {
       ReadBubbleLayer(value, file.bubble_layer);
     } else {
-      throw ConfigError("unknown key \"" + key +
-                        "\", expected \"context_name\", \"multi_light_type\" or \"bubble_layer\"");
+      FailUnknown("the configuration", key, "\"context_name\", \"multi_light_type\" or \"bubble_layer\"");
     }
   }
   return file;

@@ -1,0 +1,182 @@
+#include "tools/kinds_command.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+#include "map_resource/bubble_kinds.h"
+#include "tools/context.h"
+#include "tools/decoding.h"
+#include "tools/format_option.h"
+#include "tools/json_writer.h"
+#include "tools/samples.h"
+#include "tools/streams.h"
+#include "tools/text_output.h"
+
+namespace kavrix::tools {
+namespace {
+
+// One kind with everything that is told about it.
+struct Kind {
+  std::string marker;
+  const BubbleKindInfo& info;
+  std::vector<KeyInfo> keys;
+  std::string sample;
+  NameType name_type;
+
+  std::string name() const { return marker.substr(1); }
+};
+
+std::string FirstSampleOf(BubbleKind kind) {
+  std::string_view names = kSampleNames;
+  while (!names.empty()) {
+    const std::string_view name = names.substr(0, names.find('\n'));
+    if (FindBubbleKind(name) == kind) return std::string(name);
+    names.remove_prefix(std::min(name.size() + 1, names.size()));
+  }
+  return "";
+}
+
+std::vector<KeyInfo> KeysOf(const BubbleKindInfo& info) {
+  KeyLister lister;
+  info.list_keys(lister);
+  return lister.keys();
+}
+
+std::vector<Kind> AllKinds() {
+  std::vector<Kind> kinds;
+  for (std::size_t i = 0; i < kBubbleMarkers.size(); ++i) {
+    const auto kind = static_cast<BubbleKind>(i);
+    const BubbleKindInfo& info = InfoOf(kind);
+    kinds.push_back(
+        {std::string(MarkerOf(kind)), info, KeysOf(info), FirstSampleOf(kind), NameType::kBubble});
+  }
+  const std::string_view marker_samples = kSampleMarkerNames;
+  kinds.push_back({std::string(kMarkerNameTail), kMarkerNameInfo, KeysOf(kMarkerNameInfo),
+                   std::string(marker_samples.substr(0, marker_samples.find('\n'))), NameType::kMarker});
+  return kinds;
+}
+
+const char* WayText(PayloadWay way) {
+  switch (way) {
+    case PayloadWay::kPrefixAndMarkerStripped:
+      return "prefix and marker are stripped by length";
+    case PayloadWay::kPrefixStripped:
+      return "the prefix is stripped by length, the rest is split, the marker ends up in the last field";
+    case PayloadWay::kWholeName:
+      return "the descriptor finds its JSON object in the whole name";
+  }
+  return "";
+}
+
+std::string KindCodeText(const BubbleKindInfo& info) {
+  return info.kind_code ? std::to_string(*info.kind_code) : "not written";
+}
+
+std::string KeyText(const KeyInfo& key) { return key.rule.empty() ? key.type : key.type + ", " + key.rule; }
+
+std::string ToText(const Kind& kind) {
+  std::string text = kind.marker + "\n";
+  const auto line = [&](std::string_view label, std::string_view value) {
+    text += fmt::format("  {:<10}  {}\n", label, value);
+  };
+  line("kind code", KindCodeText(kind.info));
+  line("descriptor", kind.info.descriptor_type);
+  line("way", fmt::format("{}: {}", static_cast<int>(kind.info.way), WayText(kind.info.way)));
+  line("grammar", kind.info.grammar);
+  std::size_t width = 0;
+  for (const KeyInfo& key : kind.keys) width = std::max(width, key.key.size());
+  const char* label = "keys";
+  for (const KeyInfo& key : kind.keys) {
+    line(std::exchange(label, ""), fmt::format("{:<{}}  {}", key.key, width, KeyText(key)));
+  }
+  line("sample", kind.sample);
+  return text;
+}
+
+std::string ToJson(const Kind& kind) {
+  JsonWriter json;
+  json.BeginObject();
+  json.Key("kind");
+  json.Text(kind.name());
+  json.Key("marker");
+  json.Text(kind.marker);
+  json.Key("kind_code");
+  kind.info.kind_code ? json.Integer(*kind.info.kind_code) : json.Null();
+  json.Key("descriptor_type");
+  json.Text(kind.info.descriptor_type);
+  json.Key("way");
+  json.Integer(static_cast<int>(kind.info.way));
+  json.Key("grammar");
+  json.Text(kind.info.grammar);
+  json.Key("keys");
+  json.BeginArray();
+  for (const KeyInfo& key : kind.keys) {
+    json.BeginObject();
+    json.Key("key");
+    json.Text(key.key);
+    json.Key("type");
+    json.Text(key.type);
+    json.Key("rule");
+    json.Text(key.rule);
+    json.EndObject();
+  }
+  json.EndArray();
+  json.Key("sample");
+  json.Text(kind.sample);
+  json.EndObject();
+  return json.TakeLine();
+}
+
+std::string ToMarkdown(const Kind& kind) {
+  std::string text =
+      fmt::format("## `{}`\n\nname = prefix {} `{}`\n\n", kind.marker, kind.info.grammar, kind.marker);
+  text += fmt::format("- descriptor: `{}`, kind code: {}\n- payload: {}\n\n", kind.info.descriptor_type,
+                      KindCodeText(kind.info), WayText(kind.info.way));
+  text += "| carries | type |\n| --- | --- |\n";
+  for (const KeyInfo& key : kind.keys) text += fmt::format("| `{}` | {} |\n", key.key, KeyText(key));
+  Decoder decoder(MakeDefaultContext(), kind.name_type);
+  text += fmt::format("\nExample:\n\n```\n{}```\n\n", tools::ToText(decoder.Decode(kind.sample), {}));
+  return text;
+}
+
+struct KindsOptions {
+  std::vector<std::string> names;
+  std::string format;
+};
+
+int Run(const KindsOptions& options) {
+  Output output(false);
+  const std::vector<Kind> kinds = AllKinds();
+  for (const std::string& name : options.names) {
+    const auto is_named = [&](const Kind& kind) { return kind.name() == name || kind.marker == name; };
+    if (std::none_of(kinds.begin(), kinds.end(), is_named)) {
+      throw CLI::ValidationError("no kind is called \"" + name + "\"; \"kinds\" alone lists them all");
+    }
+  }
+  for (const Kind& kind : kinds) {
+    const auto names_it = [&](const std::string& name) { return kind.name() == name || kind.marker == name; };
+    if (!options.names.empty() && std::none_of(options.names.begin(), options.names.end(), names_it))
+      continue;
+    if (options.format == "json") output.Write(ToJson(kind));
+    if (options.format == "text") output.Write(ToText(kind) + "\n");
+    if (options.format == "markdown") output.Write(ToMarkdown(kind));
+  }
+  output.Flush();
+  return 0;
+}
+
+}  // namespace
+
+void AddKindsCommand(CLI::App& app, int& status) {
+  const auto options = std::make_shared<KindsOptions>();
+  CLI::App* const command = app.add_subcommand("kinds", "Show what names of each kind look like and carry");
+  command->add_option("KIND", options->names,
+                      "Kinds such as etaBubble, or marker for marker names; without any, all");
+  AddFormatOption(*command, options->format, {"text", "json", "markdown"});
+  command->callback([options, &status] { status = Run(*options); });
+}
+
+}  // namespace kavrix::tools
