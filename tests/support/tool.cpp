@@ -1,0 +1,86 @@
+#include "tests/support/tool.h"
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <stdexcept>
+
+namespace kavrix::test {
+namespace {
+
+// A file that is gone with the object; its path goes to the child.
+class TemporaryFile {
+ public:
+  explicit TemporaryFile(const std::string& text = "") {
+    const int descriptor = mkstemp(path_.data());
+    if (descriptor < 0) throw std::runtime_error("cannot make a temporary file");
+    close(descriptor);
+    std::ofstream(path_, std::ios::binary) << text;
+  }
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+  ~TemporaryFile() { unlink(path_.c_str()); }
+
+  int Open(int flags) const { return open(path_.c_str(), flags); }
+  std::string Text() const {
+    std::ifstream file(path_, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  }
+
+ private:
+  std::string path_ = "/tmp/kavrix_test_XXXXXX";
+};
+
+ToolResult Run(const std::vector<std::string>& command, const std::string& input) {
+  const TemporaryFile in(input);
+  const TemporaryFile out;
+  const TemporaryFile err;
+  const pid_t child = fork();
+  if (child < 0) throw std::runtime_error("cannot fork");
+  if (child == 0) {
+    dup2(in.Open(O_RDONLY), STDIN_FILENO);
+    dup2(out.Open(O_WRONLY), STDOUT_FILENO);
+    dup2(err.Open(O_WRONLY), STDERR_FILENO);
+    std::vector<char*> arguments;
+    for (const std::string& argument : command) arguments.push_back(const_cast<char*>(argument.c_str()));
+    arguments.push_back(nullptr);
+    execv(arguments[0], arguments.data());
+    _exit(127);
+  }
+  int wait_status = 0;
+  waitpid(child, &wait_status, 0);
+  return {WIFEXITED(wait_status) ? WEXITSTATUS(wait_status) : -1, out.Text(), err.Text()};
+}
+
+}  // namespace
+
+std::vector<std::string> ToolResult::Lines() const {
+  std::vector<std::string> lines;
+  std::istringstream stream(output);
+  for (std::string line; std::getline(stream, line);) lines.push_back(line);
+  return lines;
+}
+
+std::vector<nlohmann::json> ToolResult::JsonLines() const {
+  std::vector<nlohmann::json> objects;
+  for (const std::string& line : Lines()) objects.push_back(nlohmann::json::parse(line));
+  return objects;
+}
+
+ToolResult RunTool(const std::vector<std::string>& arguments, const std::string& input) {
+  std::vector<std::string> command = {KAVRIX_TOOL};
+  command.insert(command.end(), arguments.begin(), arguments.end());
+  return Run(command, input);
+}
+
+ToolResult RunShell(const std::string& command) {
+  return Run({"/bin/sh", "-c", "TOOL='" KAVRIX_TOOL "'; " + command}, "");
+}
+
+}  // namespace kavrix::test

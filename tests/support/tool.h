@@ -1,0 +1,27 @@
+#ifndef KAVRIX_TESTS_SUPPORT_TOOL_H_
+#define KAVRIX_TESTS_SUPPORT_TOOL_H_
+
+#include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
+
+namespace kavrix::test {
+
+struct ToolResult {
+  int status = -1;  // exit status; -1 when a signal ended the tool
+  std::string output;
+  std::string errors;
+
+  std::vector<std::string> Lines() const;
+  std::vector<nlohmann::json> JsonLines() const;
+};
+
+// Runs the real tool as a process, without a terminal.
+ToolResult RunTool(const std::vector<std::string>& arguments, const std::string& input = "");
+
+// The same through a shell command in which $TOOL is the tool, for pipes and redirections.
+ToolResult RunShell(const std::string& command);
+
+}  // namespace kavrix::test
+
+#endif  // KAVRIX_TESTS_SUPPORT_TOOL_H_
