@@ -3,6 +3,7 @@
 
 #include <json/value.h>
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -22,6 +23,27 @@ bool ParseStrictly(const std::string& text, Json::Value& root, std::string& erro
 
 // The member `key` of `object`; null when `object` is no object or has no such member.
 const Json::Value* Find(const Json::Value& object, std::string_view key);
+
+struct Member {
+  std::string_view key;
+  const Json::Value* value;
+};
+
+// The members of `object`, filled into `members`, when they are at most N; then their number. nullopt when there are
+// more. A value that is no object has none.
+template <std::size_t N>
+std::optional<std::size_t> ListMembers(const Json::Value& object, std::array<Member, N>& members) {
+  std::size_t count = 0;
+  if (!object.isObject()) return count;
+  const Json::Value::const_iterator end = object.end();
+  for (Json::Value::const_iterator it = object.begin(); it != end; ++it, ++count) {
+    if (count == N) return std::nullopt;
+    const char* key_end = nullptr;
+    const char* const key = it.memberName(&key_end);
+    members[count] = {std::string_view(key, static_cast<std::size_t>(key_end - key)), &*it};
+  }
+  return count;
+}
 
 // The value when it is stored as an integer that fits a signed 32-bit int. A real such as 5.0 is none.
 std::optional<int> AsInt(const Json::Value& value);
