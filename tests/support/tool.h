@@ -1,6 +1,7 @@
 #ifndef KAVRIX_TESTS_SUPPORT_TOOL_H_
 #define KAVRIX_TESTS_SUPPORT_TOOL_H_
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
