@@ -23,7 +23,7 @@ struct Icon {
 constexpr std::uint32_t kNightIdOffset = 0x100;
 
 // clang-format off
-constexpr Icon kIcons[] = {
+inline constexpr Icon kIcons[] = {
     {0x1, "鹰眼图车标罗盘"},
     {0x2, "鹰眼图车标箭头"},
     {0x4, "车标箭头"},
