@@ -1,6 +1,7 @@
 #include "tools/decode_command.h"
 
 #include <cstdlib>
+#include <iostream>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -10,6 +11,7 @@
 #include "tools/decoding.h"
 #include "tools/format_option.h"
 #include "tools/json_output.h"
+#include "tools/kind_names.h"
 #include "tools/streams.h"
 #include "tools/text_output.h"
 
@@ -26,7 +28,31 @@ struct DecodeOptions {
   bool null_delimited = false;
   bool unbuffered = false;
   bool all_members = false;
+  bool fields = false;
 };
+
+// {"kind": ..., "fields": ...}, as "encode" reads it; or a message, and false, for a name that has no such
+// form.
+bool WriteFields(const std::string& name, bool is_marker_name, std::size_t count, Output& output) {
+  try {
+    const std::optional<BubbleKind> kind = FindBubbleKind(name);
+    if (!is_marker_name && !kind) throw std::runtime_error("the name holds no marker");
+    const BubbleKindInfo& info = is_marker_name ? kMarkerNameInfo : InfoOf(*kind);
+    const std::string_view kind_name = is_marker_name ? MarkerNamesKind() : MarkerOf(*kind).substr(1);
+    const std::optional<std::string> fields = info.codec.read_fields(name);
+    if (!fields) throw std::runtime_error(std::string(kind_name) + ": the payload does not parse");
+    output.Write("{\"kind\":\"" + std::string(kind_name) + "\",\"fields\":" + *fields + "}\n");
+    return true;
+  } catch (const StreamError&) {
+    throw;
+  } catch (const std::out_of_range&) {
+    std::cerr << "kavrix-resource: name " << count << ": the name is shorter than the prefix\n";
+    return false;
+  } catch (const std::exception& error) {
+    std::cerr << "kavrix-resource: name " << count << ": " << Printable(error.what()) << '\n';
+    return false;
+  }
+}
 
 int Run(const DecodeOptions& options) {
   if (options.prefix) MapResourceManager::kavrix_resource_prefix = options.prefix->c_str();
@@ -41,7 +67,13 @@ int Run(const DecodeOptions& options) {
   Output output(options.unbuffered || ToTerminal());
 
   int status = 0;
+  std::size_t count = 0;
   const auto decode = [&](std::string name) {
+    ++count;
+    if (options.fields) {
+      if (!WriteFields(name, options.marker, count, output)) status = 1;
+      return;
+    }
     const Decoded decoded = decoder.Decode(std::move(name));
     if (decoded.failed) status = 1;
     output.Write(as_text ? ToText(decoded, text_options) : ToJsonLine(decoded));
@@ -74,6 +106,7 @@ void AddDecodeCommand(CLI::App& app, int& status) {
   command->add_flag("--marker", options->marker, "The names are marker names, not bubble names");
   command->add_flag("--null", options->null_delimited, "Names on standard input end in NUL, not newline");
   command->add_flag("--unbuffered", options->unbuffered, "Write each result as soon as it is there");
+  command->add_flag("--fields", options->fields, "Print what the names carry, in the form that encode reads");
   command->add_flag("--all", options->all_members, "In text, show members that hold their defaults too");
   command->footer(
       "Exit status: 0 every name decoded, 1 some name failed (no marker, a payload that does not\n"

@@ -41,7 +41,7 @@ std::string FirstSampleOf(BubbleKind kind) {
 
 std::vector<KeyInfo> KeysOf(const BubbleKindInfo& info) {
   KeyLister lister;
-  info.list_keys(lister);
+  info.codec.list_keys(lister);
   return lister.keys();
 }
 

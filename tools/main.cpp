@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "tools/decode_command.h"
+#include "tools/encode_command.h"
 #include "tools/icons_command.h"
 #include "tools/kinds_command.h"
 #include "tools/streams.h"
@@ -56,11 +57,12 @@ void UnmarkNames(CLI::App& app) {
 }
 
 int Run(int argc, char** argv) {
-  CLI::App app("Decodes the resource names of map bubbles.", "kavrix-resource");
+  CLI::App app("Decodes, explains and builds the resource names of map bubbles.", "kavrix-resource");
   app.set_version_flag("--version", "kavrix-resource " KAVRIX_VERSION);
   app.require_subcommand(1);
   int status = 0;
   kavrix::tools::AddDecodeCommand(app, status);
+  kavrix::tools::AddEncodeCommand(app, status);
   kavrix::tools::AddKindsCommand(app, status);
   kavrix::tools::AddIconsCommand(app, status);
   UnmarkNames(app);

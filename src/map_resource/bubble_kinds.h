@@ -1,8 +1,11 @@
 #ifndef KAVRIX_MAP_RESOURCE_BUBBLE_KINDS_H_
 #define KAVRIX_MAP_RESOURCE_BUBBLE_KINDS_H_
 
+#include <json/forwards.h>
+
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "map_resource/bubble_markers.h"
@@ -17,13 +20,25 @@ enum class PayloadWay {
   kWholeName = 3,                // the descriptor finds its JSON object in the whole name
 };
 
+// What can be done with the names of a kind whatever they carry. Fields are a JSON object: the payload's own
+// keys, for kinds without JSON the names of the fields, and "direction" where it stands behind "@".
+struct NameCodec {
+  // What a name carries, in reading order.
+  void (*list_keys)(KeyLister&);
+  // The canonical name. Throws EncodeError for unknown keys, wrong types and values that would not come back.
+  std::string (*encode_fields)(const Json::Value& fields);
+  // The fields of a name; none when its payload does not parse. Throws EncodeError for texts that are not
+  // UTF-8 and std::out_of_range for names shorter than the prefix.
+  std::optional<std::string> (*read_fields)(const std::string& name);
+};
+
 // What a kind tells about its names, for tools and documents.
 struct BubbleKindInfo {
   const char* descriptor_type;
   std::optional<std::uint16_t> kind_code;  // written to `bubble_kind`; none: left at 0
   PayloadWay way;
-  const char* grammar;            // of what stands between prefix and marker
-  void (*list_keys)(KeyLister&);  // in reading order
+  const char* grammar;  // of what stands between prefix and marker
+  NameCodec codec;
 };
 
 const BubbleKindInfo& InfoOf(BubbleKind kind);

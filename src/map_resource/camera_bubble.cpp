@@ -9,7 +9,8 @@
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
-#include "util/key_reader.h"
+#include "map_resource/name_codec.h"
+#include "map_resource/resource_name_encoder.h"
 #include "util/tagged_log.h"
 
 namespace kavrix {
@@ -18,35 +19,35 @@ using logging::LogLevel;
 
 namespace {
 
-template <class Keys, class Camera>
-void CameraKeys(Keys& keys, Camera& camera) {
-  keys.Records("cameras", camera.cameras, [](auto& item_keys, auto& item) {
-    item_keys.Integer("type", item.type);
-    item_keys.Integer("speed", item.speed);
-  });
-  keys.Integer("scene", camera.scene);
-  keys.TrueWhenOne("is_selected_", camera.selected);
-  keys.TrueWhenOne("is_force_", camera.is_force);
-  keys.Text("snap_text", camera.snap_text);
-  keys.Text("lan", camera.lan);
-  keys.TrueWhenZero("mode", camera.mode_flag);
-  keys.Integer("distance", camera.distance);
-  keys.Integer("direction", camera.direction);
-}
+struct CameraNames : JsonNames<CameraNames, CameraDrawDescriptor> {
+  static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kCamera);
+  template <class Keys, class Camera>
+  static void List(Keys& keys, Camera& camera) {
+    keys.Records("cameras", camera.cameras, [](auto& item_keys, auto& item) {
+      item_keys.Integer("type", item.type);
+      item_keys.Integer("speed", item.speed);
+    });
+    keys.Integer("scene", camera.scene);
+    keys.TrueWhenOne("is_selected_", camera.selected);
+    keys.TrueWhenOne("is_force_", camera.is_force);
+    keys.Text("snap_text", camera.snap_text);
+    keys.Text("lan", camera.lan);
+    keys.TrueWhenZero("mode", camera.mode_flag);
+    keys.Integer("distance", camera.distance);
+    keys.Integer("direction", camera.direction);
+  }
+};
 
 }  // namespace
 
 void MapResourceTransform::ParseCameraBubbleResourceName(const std::string& resource_name,
                                                          std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto camera = Publish<CameraDrawDescriptor>(out);
-  const std::string_view payload = StripPrefixAndMarker(resource_name, MarkerOf(BubbleKind::kCamera));
-  Json::Value root;
-  if (!JsonUtil::ParseObject(payload, root)) {
+  const std::string_view payload = StripPrefixAndMarker(resource_name, CameraNames::kMarker);
+  if (!ReadJsonObject(payload, [&](auto& keys) { CameraNames::List(keys, *camera); })) {
     KAVRIX_LOG(LogTagKavrixMapLayerMgr_CameraLayer, LogLevel::kFailure, "parse json failed: " << payload);
     return;
   }
-  JsonKeyReader keys(root);
-  CameraKeys(keys, *camera);
 
   BubbleLayerConfigContainer config = context_->GetBubbleLayerConfigInLock();
   auto& style = camera->scene == 0 ? config.camera_style : config.camera_scene_style;
@@ -56,11 +57,12 @@ void MapResourceTransform::ParseCameraBubbleResourceName(const std::string& reso
   KAVRIX_LOG(LogTagKavrixMapLayerMgr_CameraLayer, LogLevel::kRoutine, *camera);
 }
 
+std::string EncodeCameraBubbleResourceName(const CameraDrawDescriptor& camera) {
+  return EncodeName<CameraNames>(camera);
+}
+
 const BubbleKindInfo kCameraBubbleInfo = {"CameraDrawDescriptor", std::nullopt,
                                           PayloadWay::kPrefixAndMarkerStripped, "JSON object",
-                                          [](KeyLister& keys) {
-                                            CameraDrawDescriptor camera;
-                                            CameraKeys(keys, camera);
-                                          }};
+                                          kCodec<CameraNames>};
 
 }  // namespace kavrix

@@ -10,7 +10,8 @@
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
-#include "util/key_reader.h"
+#include "map_resource/name_codec.h"
+#include "map_resource/resource_name_encoder.h"
 #include "util/tagged_log.h"
 
 namespace kavrix {
@@ -19,19 +20,27 @@ using logging::LogLevel;
 
 namespace {
 
-template <class Keys, class Companion>
-void CompanionKeys(Keys& keys, Companion& companion) {
-  keys.TrueWhenNonZero("is_force_", companion.is_force);
-  keys.Text("time", companion.time);
-  keys.Text("distance", companion.distance);
-  keys.Text("fee", companion.fee);
-  keys.Text("light", companion.light);
-  keys.Text("label", companion.label);
-  keys.TrueWhenZero("mode", companion.mode_flag);
-  keys.TrueWhenOne("better", companion.better);
-  keys.Integer("scene", companion.scene);
-  keys.Integer("scene_", companion.BubbleDrawDescriptor::scene);
-}
+struct CompanionNames : JsonAndDirectionNames<CompanionNames, CompanionBubbleDrawDescriptor> {
+  static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kCompanion);
+  template <class Keys, class Companion>
+  static void List(Keys& keys, Companion& companion) {
+    keys.TrueWhenNonZero("is_force_", companion.is_force);
+    keys.Text("time", companion.time);
+    keys.Text("distance", companion.distance);
+    keys.Text("fee", companion.fee);
+    keys.Text("light", companion.light);
+    keys.Text("label", companion.label);
+    keys.TrueWhenZero("mode", companion.mode_flag);
+    keys.TrueWhenOne("better", companion.better);
+    keys.Integer("scene", companion.scene);
+    keys.Integer("scene_", companion.BubbleDrawDescriptor::scene);
+  }
+  static bool ReadParts(const Fields<2>& parts, CompanionBubbleDrawDescriptor& companion) {
+    if (!ReadJsonObject(parts.at[0], [&](auto& keys) { List(keys, companion); })) return false;
+    ReadDirectionTail(parts.at[1], companion);
+    return true;
+  }
+};
 
 std::size_t StyleWordNumber(const CompanionBubbleDrawDescriptor& companion) {
   if (companion.mode_flag) return companion.better ? 3 : 2;
@@ -44,16 +53,9 @@ void MapResourceTransform::ParseCompanionBubbleResourceName(const std::string& r
                                                             std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto companion = Publish<CompanionBubbleDrawDescriptor>(out);
   const auto parts = SplitFields<2>(StripPrefix(resource_name), '@');
-  if (parts.count == 2) {
-    Json::Value root;
-    if (JsonUtil::ParseObject(parts.at[0], root)) {
-      JsonKeyReader keys(root);
-      CompanionKeys(keys, *companion);
-      ReadDirectionTail(parts.at[1], *companion);
-    } else {
-      KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure,
-                 "parse json failed: " << resource_name);
-    }
+  if (parts.count == 2 && !CompanionNames::ReadParts(parts, *companion)) {
+    KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure,
+               "parse json failed: " << resource_name);
   }
 
   BubbleLayerConfigContainer config = context_->GetBubbleLayerConfigInLock();
@@ -64,12 +66,12 @@ void MapResourceTransform::ParseCompanionBubbleResourceName(const std::string& r
   KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleCompanion, LogLevel::kRoutine, *companion);
 }
 
+std::string EncodeCompanionBubbleResourceName(const CompanionBubbleDrawDescriptor& companion) {
+  return EncodeName<CompanionNames>(companion);
+}
+
 const BubbleKindInfo kCompanionBubbleInfo = {"CompanionBubbleDrawDescriptor", std::nullopt,
                                              PayloadWay::kPrefixStripped, "JSON object \"@\" direction",
-                                             [](KeyLister& keys) {
-                                               CompanionBubbleDrawDescriptor companion;
-                                               CompanionKeys(keys, companion);
-                                               DirectionTail(keys, companion);
-                                             }};
+                                             kCodec<CompanionNames>};
 
 }  // namespace kavrix

@@ -8,7 +8,8 @@
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
-#include "util/key_reader.h"
+#include "map_resource/name_codec.h"
+#include "map_resource/resource_name_encoder.h"
 #include "util/tagged_log.h"
 
 namespace kavrix {
@@ -17,19 +18,51 @@ using logging::LogLevel;
 
 namespace {
 
-template <class Fields, class Eta>
-void EtaFields(Fields& fields, Eta& eta) {
-  fields.Text(0, "content", eta.content);
-  fields.TrueWhenZero(1, "mode", eta.mode_flag);
-  fields.Integer(3, "scene", eta.scene);
-}
-
 void SplitSubText(DestNameEtaDrawDescriptor& eta) {
   const std::size_t bar = eta.content.rfind('|');
   if (bar == std::string::npos) return;
   eta.sub_text = eta.content.substr(bar + 1);
   eta.content.erase(bar);
 }
+
+// The other way round. A "|" of the content's own is kept by one more behind it, even before an empty second
+// text.
+std::string WithSubText(const DestNameEtaDrawDescriptor& eta) {
+  const bool needs_bar = !eta.sub_text.empty() || eta.content.find('|') != std::string::npos;
+  return needs_bar ? eta.content + "|" + eta.sub_text : eta.content;
+}
+
+struct EtaNames : FieldNames<EtaNames, DestNameEtaDrawDescriptor, 4> {
+  static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kEta);
+  template <class Fields, class Eta>
+  static void List(Fields& fields, Eta& eta) {
+    fields.Text(0, "content", eta.content);
+    fields.TrueWhenZero(1, "mode", eta.mode_flag);
+    fields.Integer(3, "scene", eta.scene);
+  }
+  template <class Keys, class Eta>
+  static void ListAll(Keys& keys, Eta& eta) {
+    List(keys, eta);
+    keys.Text("sub_text", eta.sub_text);
+    keys.Integer("direction", eta.direction);
+  }
+  static bool Read(const std::string& name, DestNameEtaDrawDescriptor& eta) {
+    FieldNames::Read(name, eta);
+    SplitSubText(eta);
+    return true;
+  }
+  static Payload Write(const DestNameEtaDrawDescriptor& eta) {
+    DestNameEtaDrawDescriptor joined = eta;
+    joined.content = WithSubText(eta);
+    Payload payload = FieldNames::Write(joined);
+    payload.bad = FindBadText("content", eta.content, kMarker);
+    if (!payload.bad) payload.bad = FindBadText("sub_text", eta.sub_text, kMarker);
+    const std::size_t bar = eta.sub_text.rfind('|');
+    if (!payload.bad && bar != std::string::npos)
+      payload.bad = BadText{"sub_text", eta.sub_text, bar, "ends the content"};
+    return payload;
+  }
+};
 
 void ApplyEtaStyle(BubbleStyleRecord<12>& style, DestNameEtaDrawDescriptor& eta) {
   eta.style_name = std::move(style.name);
@@ -47,29 +80,19 @@ void MapResourceTransform::ParseEtaBubbleResourceName(const std::string& resourc
                                                       std::shared_ptr<BubbleDrawDescriptor>& out) {
   KAVRIX_LOG(LogTagKavrixMapLayerMgr_DestNameEta, LogLevel::kRoutine, "resource_name:" << resource_name);
   const auto eta = Publish<DestNameEtaDrawDescriptor>(out);
-  const auto parts = SplitFields<2>(StripPrefix(resource_name), '@');
-  if (parts.count == 2) {
-    const auto fields = SplitFields<4>(parts.at[0], '_');
-    if (fields.count == 4) {
-      FieldReader reader(fields.at.data());
-      EtaFields(reader, *eta);
-    }
-    ReadDirectionTail(parts.at[1], *eta);
-  }
-  SplitSubText(*eta);
+  EtaNames::Read(resource_name, *eta);
 
   BubbleLayerConfigContainer config = context_->GetBubbleLayerConfigInLock();
   ApplyEtaStyle(eta->scene == 0 ? config.eta_style : config.eta_scene_style, *eta);
   KAVRIX_LOG(LogTagKavrixMapLayerMgr_DestNameEta, LogLevel::kRoutine, *eta);
 }
 
+std::string EncodeEtaBubbleResourceName(const DestNameEtaDrawDescriptor& eta) {
+  return EncodeName<EtaNames>(eta);
+}
+
 const BubbleKindInfo kEtaBubbleInfo = {
     "DestNameEtaDrawDescriptor", std::nullopt, PayloadWay::kPrefixStripped,
-    "content [\"|\" sub_text] \"_\" mode \"_\" unread \"_\" scene \"@\" direction", [](KeyLister& keys) {
-      DestNameEtaDrawDescriptor eta;
-      EtaFields(keys, eta);
-      keys.Add("sub_text", "text", "behind the last \"|\" of the content");
-      DirectionTail(keys, eta);
-    }};
+    "content [\"|\" sub_text] \"_\" mode \"_\" unread \"_\" scene \"@\" direction", kCodec<EtaNames>};
 
 }  // namespace kavrix

@@ -2,23 +2,19 @@
 #define KAVRIX_MAP_RESOURCE_FORCE_BUBBLE_H_
 
 #include "descriptors/bubble_draw_descriptor.h"
-#include "util/key_reader.h"
+#include "map_resource/name_codec.h"
 
 namespace kavrix {
 
-// What the force dot and the force poll share.
-template <class Keys, class Descriptor>
-void ForceBubbleKeys(Keys& keys, Descriptor& bubble) {
-  keys.TrueWhenZero("mode", bubble.mode_flag);
-  keys.Integer("type", bubble.type);
-}
-
-inline void FillForceBubble(const Json::Value& root, const char* image_key, BubbleDrawDescriptor& bubble) {
-  JsonKeyReader keys(root);
-  ForceBubbleKeys(keys, bubble);
-  bubble.content = image_key;
-  bubble.is_force = true;
-}
+// What names of the force dot and the force poll carry.
+template <class Self>
+struct ForceBubbleNames : JsonNames<Self, BubbleDrawDescriptor> {
+  template <class Keys, class Descriptor>
+  static void List(Keys& keys, Descriptor& bubble) {
+    keys.TrueWhenZero("mode", bubble.mode_flag);
+    keys.Integer("type", bubble.type);
+  }
+};
 
 }  // namespace kavrix
 

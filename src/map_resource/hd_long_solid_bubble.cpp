@@ -8,7 +8,8 @@
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
-#include "util/key_reader.h"
+#include "map_resource/name_codec.h"
+#include "map_resource/resource_name_encoder.h"
 #include "util/tagged_log.h"
 
 namespace kavrix {
@@ -19,11 +20,32 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 12;
 
-template <class Fields, class Descriptor>
-void HdLongSolidFields(Fields& fields, Descriptor& bubble) {
-  fields.Text(0, "content", bubble.content);
-  fields.TrueWhenZero(1, "mode", bubble.mode_flag);
-}
+struct HdLongSolidNames : FieldNames<HdLongSolidNames, HDLongSolidBubbleDrawDescriptor, 3> {
+  static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kHdLongSolid);
+  template <class Fields, class Descriptor>
+  static void List(Fields& fields, Descriptor& bubble) {
+    fields.Text(0, "content", bubble.content);
+    fields.TrueWhenZero(1, "mode", bubble.mode_flag);
+  }
+  template <class Keys, class Descriptor>
+  static void ListAll(Keys& keys, Descriptor& bubble) {
+    List(keys, bubble);
+    keys.TrueWhenOne("force", bubble.is_force);
+    keys.Integer("direction", bubble.direction);
+  }
+  static void ReadHead(const Head& fields, HDLongSolidBubbleDrawDescriptor& bubble) {
+    if (fields.count < 2) return;
+    FieldReader reader(fields.at.data());
+    List(reader, bubble);
+    if (fields.count > 2) bubble.is_force = true;
+  }
+  static Payload Write(const HDLongSolidBubbleDrawDescriptor& bubble) {
+    FieldWriter fields(bubble.is_force ? 3 : 2);
+    List(fields, bubble);
+    if (bubble.is_force) fields.Text(2, "force", "1");
+    return WithDirection(FieldsPayload(fields, kMarker), bubble.direction);
+  }
+};
 
 }  // namespace
 
@@ -34,26 +56,16 @@ void MapResourceTransform::ParseHdLongSolidBubbleResourceName(const std::string&
   BubbleLayerConfigContainer config = context_->GetBubbleLayerConfigInLock();
   ApplyCommonStyle(std::move(config.hd_long_solid_style), *bubble);
 
-  const auto parts = SplitFields<2>(StripPrefix(resource_name), '@');
-  if (parts.count == 2) {
-    const auto fields = SplitFields<3>(parts.at[0], '_');
-    if (fields.count >= 2) {
-      FieldReader reader(fields.at.data());
-      HdLongSolidFields(reader, *bubble);
-      if (fields.count > 2) bubble->is_force = true;
-    }
-    ReadDirectionTail(parts.at[1], *bubble);
-  }
+  HdLongSolidNames::Read(resource_name, *bubble);
   KAVRIX_LOG(LogTagKavrixMapLayerMgr_LongSolid, LogLevel::kRoutine, *out);
+}
+
+std::string EncodeHdLongSolidBubbleResourceName(const HDLongSolidBubbleDrawDescriptor& bubble) {
+  return EncodeName<HdLongSolidNames>(bubble);
 }
 
 const BubbleKindInfo kHdLongSolidBubbleInfo = {
     "HDLongSolidBubbleDrawDescriptor", kKindCode, PayloadWay::kPrefixStripped,
-    "content \"_\" mode { \"_\" force } \"@\" direction", [](KeyLister& keys) {
-      HDLongSolidBubbleDrawDescriptor bubble;
-      HdLongSolidFields(keys, bubble);
-      keys.Add("force", "flag", "true when the field is there");
-      DirectionTail(keys, bubble);
-    }};
+    "content \"_\" mode { \"_\" force } \"@\" direction", kCodec<HdLongSolidNames>};
 
 }  // namespace kavrix

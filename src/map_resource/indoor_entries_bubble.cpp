@@ -9,7 +9,8 @@
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
-#include "util/key_reader.h"
+#include "map_resource/name_codec.h"
+#include "map_resource/resource_name_encoder.h"
 #include "util/tagged_log.h"
 
 namespace kavrix {
@@ -20,14 +21,17 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 13;
 
-template <class Fields, class Entries>
-void IndoorEntriesFields(Fields& fields, Entries& entries) {
-  fields.Text(0, "content", entries.content);
-  fields.TrueWhenZero(1, "mode", entries.mode_flag);
-  fields.Text(2, "lan", entries.lan);
-  fields.LeadingInteger(3, "entries_value", entries.entries_value);
-  fields.Text(4, "entries_text", entries.entries_text);
-}
+struct IndoorEntriesNames : FieldNames<IndoorEntriesNames, IndoorEntriesBubbleDrawDescriptor, 5> {
+  static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kIndoorEntries);
+  template <class Fields, class Entries>
+  static void List(Fields& fields, Entries& entries) {
+    fields.Text(0, "content", entries.content);
+    fields.TrueWhenZero(1, "mode", entries.mode_flag);
+    fields.Text(2, "lan", entries.lan);
+    fields.LeadingInteger(3, "entries_value", entries.entries_value);
+    fields.Text(4, "entries_text", entries.entries_text);
+  }
+};
 
 }  // namespace
 
@@ -35,28 +39,20 @@ void MapResourceTransform::ParseIndoorEntriesBubbleResourceName(const std::strin
                                                                 std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto entries = Publish<IndoorEntriesBubbleDrawDescriptor>(out);
   entries->bubble_kind = kKindCode;
-  const auto parts = SplitFields<2>(StripPrefix(resource_name), '@');
-  if (parts.count == 2) {
-    const auto fields = SplitFields<5>(parts.at[0], '_');
-    if (fields.count == 5) {
-      FieldReader reader(fields.at.data());
-      IndoorEntriesFields(reader, *entries);
-    }
-    ReadDirectionTail(parts.at[1], *entries);
-  }
+  IndoorEntriesNames::Read(resource_name, *entries);
 
   BubbleLayerConfigContainer config = context_->GetBubbleLayerConfigInLock();
   ApplyCommonStyle(std::move(config.indoor_entries_style), *entries);
   KAVRIX_LOG(LogTagMapLayerMgr_IndoorEntries, LogLevel::kRoutine, *out << "resource_name " << resource_name);
 }
 
+std::string EncodeIndoorEntriesBubbleResourceName(const IndoorEntriesBubbleDrawDescriptor& entries) {
+  return EncodeName<IndoorEntriesNames>(entries);
+}
+
 const BubbleKindInfo kIndoorEntriesBubbleInfo = {
     "IndoorEntriesBubbleDrawDescriptor", kKindCode, PayloadWay::kPrefixStripped,
     "content \"_\" mode \"_\" lan \"_\" entries_value \"_\" entries_text \"@\" direction",
-    [](KeyLister& keys) {
-      IndoorEntriesBubbleDrawDescriptor entries;
-      IndoorEntriesFields(keys, entries);
-      DirectionTail(keys, entries);
-    }};
+    kCodec<IndoorEntriesNames>};
 
 }  // namespace kavrix

@@ -9,34 +9,35 @@
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
+#include "map_resource/name_codec.h"
+#include "map_resource/resource_name_encoder.h"
 #include "map_resource/self_initialised_keys.h"
-#include "util/key_reader.h"
 
 namespace kavrix {
 
 namespace {
 
-template <class Keys, class Descriptor>
-void LaneChangeKeys(Keys& keys, Descriptor& bubble) {
-  SelfInitialisedKeys(keys, bubble);
-  keys.Integer("target_lane", bubble.target_lane);
-  keys.Integer("distance", bubble.distance);
-}
+struct LaneChangeNames : WholeNames<LaneChangeNames, HDLaneChangeBubbleDrawDescriptor> {
+  static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kLaneChange);
+  template <class Keys, class Descriptor>
+  static void List(Keys& keys, Descriptor& bubble) {
+    SelfInitialisedKeys(keys, bubble);
+    keys.Integer("target_lane", bubble.target_lane);
+    keys.Integer("distance", bubble.distance);
+  }
+};
 
 }  // namespace
 
 bool HDLaneChangeBubbleDrawDescriptor::InitWithJson(const std::string& text) {
-  Json::Value root;
-  if (!JsonUtil::ParseObject(FindJsonObject(text), root)) return false;
-  JsonKeyReader keys(root);
-  LaneChangeKeys(keys, *this);
-  return true;
+  return LaneChangeNames::ReadObject(text, *this);
+}
+
+std::string EncodeLaneChangeResourceName(const HDLaneChangeBubbleDrawDescriptor& change) {
+  return EncodeName<LaneChangeNames>(change);
 }
 
 const BubbleKindInfo kLaneChangeBubbleInfo = {"HDLaneChangeBubbleDrawDescriptor", std::nullopt,
-                                              PayloadWay::kWholeName, "JSON object", [](KeyLister& keys) {
-                                                HDLaneChangeBubbleDrawDescriptor bubble;
-                                                LaneChangeKeys(keys, bubble);
-                                              }};
+                                              PayloadWay::kWholeName, "JSON object", kCodec<LaneChangeNames>};
 
 }  // namespace kavrix

@@ -7,7 +7,8 @@
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
-#include "util/key_reader.h"
+#include "map_resource/name_codec.h"
+#include "map_resource/resource_name_encoder.h"
 #include "util/tagged_log.h"
 
 namespace kavrix {
@@ -16,18 +17,21 @@ using logging::LogLevel;
 
 namespace {
 
-template <class Keys, class Light>
-void LightCountdownKeys(Keys& keys, Light& light) {
-  keys.TrueWhenOne("is_force_", light.is_force);
-  keys.Integer("scene", light.scene);
-  keys.TrueWhenZero("mode", light.mode_flag);
-  keys.Text("id", light.id);
-  keys.Integer("style", light.style);
-  keys.Integer("light_type", light.light_type);
-  keys.Integer("turn_arrow_type", light.turn_arrow_type);
-  keys.Integer("time", light.time);
-  keys.Text("text", light.text);
-}
+struct LightCountdownNames : JsonAndDirectionNames<LightCountdownNames, LightCountdownTimerDrawDescriptor> {
+  static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kLightCountdown);
+  template <class Keys, class Light>
+  static void List(Keys& keys, Light& light) {
+    keys.TrueWhenOne("is_force_", light.is_force);
+    keys.Integer("scene", light.scene);
+    keys.TrueWhenZero("mode", light.mode_flag);
+    keys.Text("id", light.id);
+    keys.Integer("style", light.style);
+    keys.Integer("light_type", light.light_type);
+    keys.Integer("turn_arrow_type", light.turn_arrow_type);
+    keys.Integer("time", light.time);
+    keys.Text("text", light.text);
+  }
+};
 
 }  // namespace
 
@@ -35,26 +39,19 @@ void MapResourceTransform::ParseLightCountdownBubbleResourceName(const std::stri
                                                                  std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto light = Publish<LightCountdownTimerDrawDescriptor>(out);
   const auto parts = SplitFields<2>(StripPrefix(resource_name), '@');
-  if (parts.count == 2) {
-    Json::Value root;
-    if (JsonUtil::ParseObject(parts.at[0], root)) {
-      JsonKeyReader keys(root);
-      LightCountdownKeys(keys, *light);
-    } else {
-      KAVRIX_LOG(LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kFailure,
-                 "parse json failed: " << parts.at[0]);
-    }
-    ReadDirectionTail(parts.at[1], *light);
+  if (parts.count == 2 && !LightCountdownNames::ReadParts(parts, *light)) {
+    KAVRIX_LOG(LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kFailure,
+               "parse json failed: " << parts.at[0]);
   }
   KAVRIX_LOG(LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kRoutine, *light);
 }
 
+std::string EncodeLightCountdownBubbleResourceName(const LightCountdownTimerDrawDescriptor& light) {
+  return EncodeName<LightCountdownNames>(light);
+}
+
 const BubbleKindInfo kLightCountdownBubbleInfo = {"LightCountdownTimerDrawDescriptor", std::nullopt,
                                                   PayloadWay::kPrefixStripped, "JSON object \"@\" direction",
-                                                  [](KeyLister& keys) {
-                                                    LightCountdownTimerDrawDescriptor light;
-                                                    LightCountdownKeys(keys, light);
-                                                    DirectionTail(keys, light);
-                                                  }};
+                                                  kCodec<LightCountdownNames>};
 
 }  // namespace kavrix

@@ -7,7 +7,8 @@
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
-#include "util/key_reader.h"
+#include "map_resource/name_codec.h"
+#include "map_resource/resource_name_encoder.h"
 #include "util/tagged_log.h"
 
 namespace kavrix {
@@ -18,12 +19,32 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 14;
 
-template <class Fields, class Descriptor>
-void LightWaitFields(Fields& fields, Descriptor& bubble) {
-  fields.Text(0, "content", bubble.content);
-  fields.TrueWhenZero(1, "mode", bubble.mode_flag);
-  fields.Integer(2, "scene", bubble.scene);
-}
+struct LightWaitNames : FieldNames<LightWaitNames, LightWaitBubbleDrawDescriptor, 4> {
+  static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kLightWait);
+  template <class Fields, class Descriptor>
+  static void List(Fields& fields, Descriptor& bubble) {
+    fields.Text(0, "content", bubble.content);
+    fields.TrueWhenZero(1, "mode", bubble.mode_flag);
+    fields.Integer(2, "scene", bubble.scene);
+  }
+  template <class Keys, class Descriptor>
+  static void ListAll(Keys& keys, Descriptor& bubble) {
+    List(keys, bubble);
+    keys.TrueWhenOne("force", bubble.is_force);
+    keys.Integer("direction", bubble.direction);
+  }
+  static void ReadHead(const Head& fields, LightWaitBubbleDrawDescriptor& bubble) {
+    if (fields.count != 4) return;
+    FieldNames::ReadHead(fields, bubble);
+    bubble.is_force = fields.at[3] == "1";
+  }
+  static Payload Write(const LightWaitBubbleDrawDescriptor& bubble) {
+    FieldWriter fields(4);
+    List(fields, bubble);
+    fields.Text(3, "force", bubble.is_force ? "1" : "0");
+    return WithDirection(FieldsPayload(fields, kMarker), bubble.direction);
+  }
+};
 
 }  // namespace
 
@@ -31,29 +52,19 @@ void MapResourceTransform::ParseLightWaitBubbleResourceName(const std::string& r
                                                             std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto bubble = Publish<LightWaitBubbleDrawDescriptor>(out);
   bubble->bubble_kind = kKindCode;
-  const auto parts = SplitFields<2>(StripPrefix(resource_name), '@');
-  if (parts.count == 2) {
-    const auto fields = SplitFields<4>(parts.at[0], '_');
-    if (fields.count == 4) {
-      FieldReader reader(fields.at.data());
-      LightWaitFields(reader, *bubble);
-      bubble->is_force = fields.at[3] == "1";
-    }
-    ReadDirectionTail(parts.at[1], *bubble);
-  }
+  LightWaitNames::Read(resource_name, *bubble);
 
   BubbleLayerConfigContainer config = context_->GetBubbleLayerConfigInLock();
   ApplyCommonStyle(std::move(config.light_wait_style), *bubble);
   KAVRIX_LOG(LogTagMapLayerMgr_LightWait, LogLevel::kRoutine, *out);
 }
 
+std::string EncodeLightWaitBubbleResourceName(const LightWaitBubbleDrawDescriptor& bubble) {
+  return EncodeName<LightWaitNames>(bubble);
+}
+
 const BubbleKindInfo kLightWaitBubbleInfo = {
     "LightWaitBubbleDrawDescriptor", kKindCode, PayloadWay::kPrefixStripped,
-    "content \"_\" mode \"_\" scene \"_\" force \"@\" direction", [](KeyLister& keys) {
-      LightWaitBubbleDrawDescriptor bubble;
-      LightWaitFields(keys, bubble);
-      keys.Add("force", "flag", "true when the text is \"1\"");
-      DirectionTail(keys, bubble);
-    }};
+    "content \"_\" mode \"_\" scene \"_\" force \"@\" direction", kCodec<LightWaitNames>};
 
 }  // namespace kavrix

@@ -9,7 +9,8 @@
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
-#include "util/key_reader.h"
+#include "map_resource/name_codec.h"
+#include "map_resource/resource_name_encoder.h"
 #include "util/tagged_log.h"
 
 namespace kavrix {
@@ -20,13 +21,16 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 0;
 
-template <class Keys, class Descriptor>
-void MarkerBubbleKeys(Keys& keys, Descriptor& bubble) {
-  keys.Integer("scene", bubble.scene);
-  keys.TrueWhenZero("mode", bubble.mode_flag);
-  keys.Integer("direction", bubble.direction);
-  keys.Text("content", bubble.content);
-}
+struct MarkerBubbleNames : JsonNames<MarkerBubbleNames, BubbleDrawDescriptor> {
+  static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kMarker);
+  template <class Keys, class Descriptor>
+  static void List(Keys& keys, Descriptor& bubble) {
+    keys.Integer("scene", bubble.scene);
+    keys.TrueWhenZero("mode", bubble.mode_flag);
+    keys.Integer("direction", bubble.direction);
+    keys.Text("content", bubble.content);
+  }
+};
 
 }  // namespace
 
@@ -34,22 +38,20 @@ void MapResourceTransform::ParseMarkerBubbleResourceName(const std::string& reso
                                                          std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto bubble = Publish<BubbleDrawDescriptor>(out);
   bubble->bubble_kind = kKindCode;
-  const std::string_view payload = StripPrefixAndMarker(resource_name, MarkerOf(BubbleKind::kMarker));
-  Json::Value root;
-  if (!JsonUtil::ParseObject(payload, root)) {
+  const std::string_view payload = StripPrefixAndMarker(resource_name, MarkerBubbleNames::kMarker);
+  if (!ReadJsonObject(payload, [&](auto& keys) { MarkerBubbleNames::List(keys, *bubble); })) {
     KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, "parse json failed: " << payload);
     return;
   }
-  JsonKeyReader keys(root);
-  MarkerBubbleKeys(keys, *bubble);
   ApplyCommonStyle(marker_bubble_config_, *bubble);
+}
+
+std::string EncodeMarkerBubbleResourceName(const BubbleDrawDescriptor& bubble) {
+  return EncodeName<MarkerBubbleNames>(bubble);
 }
 
 const BubbleKindInfo kMarkerBubbleInfo = {"BubbleDrawDescriptor", kKindCode,
                                           PayloadWay::kPrefixAndMarkerStripped, "JSON object",
-                                          [](KeyLister& keys) {
-                                            BubbleDrawDescriptor bubble;
-                                            MarkerBubbleKeys(keys, bubble);
-                                          }};
+                                          kCodec<MarkerBubbleNames>};
 
 }  // namespace kavrix

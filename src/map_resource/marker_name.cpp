@@ -13,7 +13,8 @@
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_manager.h"
 #include "map_resource/map_resource_transform.h"
-#include "util/key_reader.h"
+#include "map_resource/name_codec.h"
+#include "map_resource/resource_name_encoder.h"
 #include "util/string_util.h"
 #include "util/tagged_log.h"
 
@@ -25,17 +26,20 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 21;
 
-template <class Keys, class Marker>
-void MarkerNameKeys(Keys& keys, Marker& marker) {
-  keys.Text("lan", marker.lan);
-  keys.TrueWhenZero("mode", marker.mode_flag);
-  keys.Integer("scene", marker.scene);
-  keys.Integer("direction", marker.direction);
-  keys.Integer("marker_type", marker.marker_type);
-  keys.Text("name", marker.name);
-  keys.Integer("resource_id", marker.resource_id);
-  keys.TrueWhenNonZero("is_main_map", marker.is_main_map);
-}
+struct MarkerNames : JsonNames<MarkerNames, MarkerDrawDescriptor> {
+  static constexpr std::string_view kMarker = kMarkerNameTail;
+  template <class Keys, class Marker>
+  static void List(Keys& keys, Marker& marker) {
+    keys.Text("lan", marker.lan);
+    keys.TrueWhenZero("mode", marker.mode_flag);
+    keys.Integer("scene", marker.scene);
+    keys.Integer("direction", marker.direction);
+    keys.Integer("marker_type", marker.marker_type);
+    keys.Text("name", marker.name);
+    keys.Integer("resource_id", marker.resource_id);
+    keys.TrueWhenNonZero("is_main_map", marker.is_main_map);
+  }
+};
 
 std::string TypeText(std::int16_t marker_type) {
   std::ostringstream stream;
@@ -48,7 +52,7 @@ std::string TypeText(std::int16_t marker_type) {
 
 void MapResourceTransform::GetMarkerDrawDescriptor(const std::string& resource_name,
                                                    std::shared_ptr<BubbleDrawDescriptor>& out) {
-  const std::string_view payload = StripPrefixAndMarker(resource_name, kMarkerNameTail);
+  const std::string_view payload = StripPrefixAndMarker(resource_name, MarkerNames::kMarker);
   Json::Value root;
   if (!JsonUtil::ParseObject(payload, root)) {
     KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure,
@@ -63,17 +67,18 @@ void MapResourceTransform::ParseMarkerResourceName(const Json::Value& value,
   const auto marker = Publish<MarkerDrawDescriptor>(out);
   marker->bubble_kind = kKindCode;
   JsonKeyReader keys(value);
-  MarkerNameKeys(keys, *marker);
+  MarkerNames::List(keys, *marker);
   marker->is_force = true;
   marker->content =
       MapResourceManager::kavrix_resource_prefix + TypeText(marker->marker_type) + "_" + marker->name;
 }
 
+std::string EncodeMarkerResourceName(const MarkerDrawDescriptor& marker) {
+  return EncodeName<MarkerNames>(marker);
+}
+
 const BubbleKindInfo kMarkerNameInfo = {"MarkerDrawDescriptor", kKindCode,
                                         PayloadWay::kPrefixAndMarkerStripped, "JSON object",
-                                        [](KeyLister& keys) {
-                                          MarkerDrawDescriptor marker;
-                                          MarkerNameKeys(keys, marker);
-                                        }};
+                                        kCodec<MarkerNames>};
 
 }  // namespace kavrix

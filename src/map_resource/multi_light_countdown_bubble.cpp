@@ -11,7 +11,8 @@
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
-#include "util/key_reader.h"
+#include "map_resource/name_codec.h"
+#include "map_resource/resource_name_encoder.h"
 #include "util/tagged_log.h"
 
 namespace kavrix {
@@ -20,22 +21,26 @@ using logging::LogLevel;
 
 namespace {
 
-template <class Keys, class Lights>
-void MultiLightCountdownKeys(Keys& keys, Lights& lights) {
-  keys.TrueWhenOne("is_force_", lights.is_force);
-  keys.Integer("scene", lights.scene);
-  keys.TrueWhenZero("mode", lights.mode_flag);
-  keys.Integer("style", lights.style);
-  keys.Text("id", lights.id);
-  keys.TrueWhenOne("is_animation", lights.is_animation);
-  keys.Records("light_descriptors", lights.light_descriptors, [](auto& item_keys, auto& light) {
-    item_keys.Integer("light_type", light.light_type);
-    item_keys.Integer("turn_arrow_type", light.turn_arrow_type);
-    item_keys.Integer("remain_time", light.remain_time);
-    item_keys.Text("text", light.text);
-    item_keys.Integer("total_time", light.total_time);
-  });
-}
+struct MultiLightCountdownNames
+    : JsonAndDirectionNames<MultiLightCountdownNames, MultiLightCountdownTimerDrawDescriptor> {
+  static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kMultiLightCountdown);
+  template <class Keys, class Lights>
+  static void List(Keys& keys, Lights& lights) {
+    keys.TrueWhenOne("is_force_", lights.is_force);
+    keys.Integer("scene", lights.scene);
+    keys.TrueWhenZero("mode", lights.mode_flag);
+    keys.Integer("style", lights.style);
+    keys.Text("id", lights.id);
+    keys.TrueWhenOne("is_animation", lights.is_animation);
+    keys.Records("light_descriptors", lights.light_descriptors, [](auto& item_keys, auto& light) {
+      item_keys.Integer("light_type", light.light_type);
+      item_keys.Integer("turn_arrow_type", light.turn_arrow_type);
+      item_keys.Integer("remain_time", light.remain_time);
+      item_keys.Text("text", light.text);
+      item_keys.Integer("total_time", light.total_time);
+    });
+  }
+};
 
 }  // namespace
 
@@ -44,26 +49,20 @@ void MapResourceTransform::ParseMultiLightCountdownBubbleResourceName(
   const auto lights = Publish<MultiLightCountdownTimerDrawDescriptor>(out);
   lights->type = static_cast<std::int16_t>(context_->multi_light_type.load());
   const auto parts = SplitFields<2>(StripPrefix(resource_name), '@');
-  if (parts.count == 2) {
-    Json::Value root;
-    if (JsonUtil::ParseObject(parts.at[0], root)) {
-      JsonKeyReader keys(root);
-      MultiLightCountdownKeys(keys, *lights);
-    } else {
-      KAVRIX_LOG(LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kFailure,
-                 "parse json failed: " << parts.at[0]);
-    }
-    ReadDirectionTail(parts.at[1], *lights);
+  if (parts.count == 2 && !MultiLightCountdownNames::ReadParts(parts, *lights)) {
+    KAVRIX_LOG(LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kFailure,
+               "parse json failed: " << parts.at[0]);
   }
   KAVRIX_LOG(LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kRoutine, *lights);
 }
 
-const BubbleKindInfo kMultiLightCountdownBubbleInfo = {"MultiLightCountdownTimerDrawDescriptor", std::nullopt,
-                                                       PayloadWay::kPrefixStripped,
-                                                       "JSON object \"@\" direction", [](KeyLister& keys) {
-                                                         MultiLightCountdownTimerDrawDescriptor lights;
-                                                         MultiLightCountdownKeys(keys, lights);
-                                                         DirectionTail(keys, lights);
-                                                       }};
+std::string EncodeMultiLightCountdownBubbleResourceName(
+    const MultiLightCountdownTimerDrawDescriptor& lights) {
+  return EncodeName<MultiLightCountdownNames>(lights);
+}
+
+const BubbleKindInfo kMultiLightCountdownBubbleInfo = {
+    "MultiLightCountdownTimerDrawDescriptor", std::nullopt, PayloadWay::kPrefixStripped,
+    "JSON object \"@\" direction", kCodec<MultiLightCountdownNames>};
 
 }  // namespace kavrix

@@ -29,8 +29,7 @@ std::string_view StripPrefixAndMarker(const std::string& resource_name, std::str
 void ReadDirectionTail(std::string_view tail, BubbleDrawDescriptor& descriptor) {
   const auto fields = SplitFields<2>(tail, '.');
   if (fields.count != 2) return;
-  FieldReader reader(fields.at.data());
-  DirectionTail(reader, descriptor);
+  FieldReader(fields.at.data()).Integer(0, "direction", descriptor.direction);
 }
 
 std::string_view FindJsonObject(std::string_view resource_name) {

@@ -37,12 +37,6 @@ void PublishInitialised(const std::string& resource_name, std::shared_ptr<Bubble
   out = std::move(descriptor);
 }
 
-// What a name of several kinds has behind "@", in front of the dot of its marker.
-template <class Fields, class Descriptor>
-void DirectionTail(Fields& fields, Descriptor& descriptor) {
-  fields.Integer(0, "direction", descriptor.direction);
-}
-
 // Reads the direction from what stands behind "@": a decimal integer, a dot and the marker word, which is not
 // compared. The low 16 bits are stored; anything of another shape leaves the direction alone.
 void ReadDirectionTail(std::string_view tail, BubbleDrawDescriptor& descriptor);

@@ -9,28 +9,28 @@
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
+#include "map_resource/name_codec.h"
+#include "map_resource/resource_name_encoder.h"
 #include "map_resource/self_initialised_keys.h"
-#include "util/key_reader.h"
 
 namespace kavrix {
 
 namespace {
 
-template <class Keys, class Descriptor>
-void RouteAccidentKeys(Keys& keys, Descriptor& bubble) {
-  SelfInitialisedKeys(keys, bubble);
-  keys.Text("accident_id", bubble.accident_id);
-  keys.Integer("severity", bubble.severity);
-}
+struct RouteAccidentNames : WholeNames<RouteAccidentNames, RouteAccidentBubbleDrawDescriptor> {
+  static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kRouteAccident);
+  template <class Keys, class Descriptor>
+  static void List(Keys& keys, Descriptor& bubble) {
+    SelfInitialisedKeys(keys, bubble);
+    keys.Text("accident_id", bubble.accident_id);
+    keys.Integer("severity", bubble.severity);
+  }
+};
 
 }  // namespace
 
 bool RouteAccidentBubbleDrawDescriptor::InitWithJson(const std::string& text) {
-  Json::Value root;
-  if (!JsonUtil::ParseObject(FindJsonObject(text), root)) return false;
-  JsonKeyReader keys(root);
-  RouteAccidentKeys(keys, *this);
-  return true;
+  return RouteAccidentNames::ReadObject(text, *this);
 }
 
 void MapResourceTransform::ParseRouteAccidentResourceName(const std::string& resource_name,
@@ -38,10 +38,12 @@ void MapResourceTransform::ParseRouteAccidentResourceName(const std::string& res
   PublishInitialised<RouteAccidentBubbleDrawDescriptor>(resource_name, out);
 }
 
+std::string EncodeRouteAccidentResourceName(const RouteAccidentBubbleDrawDescriptor& accident) {
+  return EncodeName<RouteAccidentNames>(accident);
+}
+
 const BubbleKindInfo kRouteAccidentBubbleInfo = {"RouteAccidentBubbleDrawDescriptor", std::nullopt,
-                                                 PayloadWay::kWholeName, "JSON object", [](KeyLister& keys) {
-                                                   RouteAccidentBubbleDrawDescriptor bubble;
-                                                   RouteAccidentKeys(keys, bubble);
-                                                 }};
+                                                 PayloadWay::kWholeName, "JSON object",
+                                                 kCodec<RouteAccidentNames>};
 
 }  // namespace kavrix

@@ -7,7 +7,8 @@
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
-#include "util/key_reader.h"
+#include "map_resource/name_codec.h"
+#include "map_resource/resource_name_encoder.h"
 #include "util/tagged_log.h"
 
 namespace kavrix {
@@ -18,11 +19,14 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 7;
 
-template <class Fields, class Descriptor>
-void RouteLabelFields(Fields& fields, Descriptor& label) {
-  fields.Text(0, "content", label.content);
-  fields.TrueWhenZero(1, "mode", label.mode_flag);
-}
+struct RouteLabelNames : FieldNames<RouteLabelNames, BubbleDrawDescriptor, 2> {
+  static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kRouteLabel);
+  template <class Fields, class Descriptor>
+  static void List(Fields& fields, Descriptor& label) {
+    fields.Text(0, "content", label.content);
+    fields.TrueWhenZero(1, "mode", label.mode_flag);
+  }
+};
 
 }  // namespace
 
@@ -30,15 +34,7 @@ void MapResourceTransform::ParseRouteLabelBubbleResourceName(const std::string& 
                                                              std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto label = Publish<BubbleDrawDescriptor>(out);
   label->bubble_kind = kKindCode;
-  const auto parts = SplitFields<2>(StripPrefix(resource_name), '@');
-  if (parts.count == 2) {
-    const auto fields = SplitFields<2>(parts.at[0], '_');
-    if (fields.count == 2) {
-      FieldReader reader(fields.at.data());
-      RouteLabelFields(reader, *label);
-    }
-    ReadDirectionTail(parts.at[1], *label);
-  }
+  RouteLabelNames::Read(resource_name, *label);
 
   BubbleLayerConfigContainer config = context_->GetBubbleLayerConfigInLock();
   auto& style = config.route_label_style;
@@ -48,11 +44,11 @@ void MapResourceTransform::ParseRouteLabelBubbleResourceName(const std::string& 
   KAVRIX_LOG(LogTagKavrixMapLayerMgr_RouteLabel, LogLevel::kRoutine, *label);
 }
 
+std::string EncodeRouteLabelBubbleResourceName(const BubbleDrawDescriptor& label) {
+  return EncodeName<RouteLabelNames>(label);
+}
+
 const BubbleKindInfo kRouteLabelBubbleInfo = {"BubbleDrawDescriptor", kKindCode, PayloadWay::kPrefixStripped,
-                                              "content \"_\" mode \"@\" direction", [](KeyLister& keys) {
-                                                BubbleDrawDescriptor label;
-                                                RouteLabelFields(keys, label);
-                                                DirectionTail(keys, label);
-                                              }};
+                                              "content \"_\" mode \"@\" direction", kCodec<RouteLabelNames>};
 
 }  // namespace kavrix

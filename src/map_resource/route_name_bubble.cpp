@@ -7,7 +7,8 @@
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
-#include "util/key_reader.h"
+#include "map_resource/name_codec.h"
+#include "map_resource/resource_name_encoder.h"
 #include "util/tagged_log.h"
 
 namespace kavrix {
@@ -18,12 +19,15 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 0;
 
-template <class Fields, class Descriptor>
-void RouteNameFields(Fields& fields, Descriptor& bubble) {
-  fields.Text(0, "content", bubble.content);
-  fields.TrueWhenZero(1, "mode", bubble.mode_flag);
-  fields.Integer(2, "scene", bubble.scene);
-}
+struct RouteNameNames : FieldNames<RouteNameNames, BubbleDrawDescriptor, 3> {
+  static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kRouteName);
+  template <class Fields, class Descriptor>
+  static void List(Fields& fields, Descriptor& bubble) {
+    fields.Text(0, "content", bubble.content);
+    fields.TrueWhenZero(1, "mode", bubble.mode_flag);
+    fields.Integer(2, "scene", bubble.scene);
+  }
+};
 
 }  // namespace
 
@@ -31,15 +35,7 @@ void MapResourceTransform::ParseRouteNameBubbleResourceName(const std::string& r
                                                             std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto bubble = Publish<BubbleDrawDescriptor>(out);
   bubble->bubble_kind = kKindCode;
-  const auto parts = SplitFields<2>(StripPrefix(resource_name), '@');
-  if (parts.count == 2) {
-    const auto fields = SplitFields<3>(parts.at[0], '_');
-    if (fields.count == 3) {
-      FieldReader reader(fields.at.data());
-      RouteNameFields(reader, *bubble);
-    }
-    ReadDirectionTail(parts.at[1], *bubble);
-  }
+  RouteNameNames::Read(resource_name, *bubble);
 
   BubbleLayerConfigContainer config = context_->GetBubbleLayerConfigInLock();
   ApplyCommonStyle(std::move(bubble->scene == 0 ? config.route_name_style : config.route_name_scene_style),
@@ -47,12 +43,12 @@ void MapResourceTransform::ParseRouteNameBubbleResourceName(const std::string& r
   KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleName, LogLevel::kRoutine, *bubble);
 }
 
+std::string EncodeRouteNameBubbleResourceName(const BubbleDrawDescriptor& bubble) {
+  return EncodeName<RouteNameNames>(bubble);
+}
+
 const BubbleKindInfo kRouteNameBubbleInfo = {"BubbleDrawDescriptor", kKindCode, PayloadWay::kPrefixStripped,
                                              "content \"_\" mode \"_\" scene \"@\" direction",
-                                             [](KeyLister& keys) {
-                                               BubbleDrawDescriptor bubble;
-                                               RouteNameFields(keys, bubble);
-                                               DirectionTail(keys, bubble);
-                                             }};
+                                             kCodec<RouteNameNames>};
 
 }  // namespace kavrix

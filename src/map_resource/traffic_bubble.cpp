@@ -7,7 +7,8 @@
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
-#include "util/key_reader.h"
+#include "map_resource/name_codec.h"
+#include "map_resource/resource_name_encoder.h"
 #include "util/tagged_log.h"
 
 namespace kavrix {
@@ -29,6 +30,19 @@ void TrafficKeys(Keys& keys, Traffic& traffic, Int& nav_mode) {
   keys.Integer("nav_mode", nav_mode);
 }
 
+struct TrafficName {
+  TrafficDrawDescriptor traffic;
+  int nav_mode = 1;
+};
+
+struct TrafficNames : JsonNames<TrafficNames, TrafficName> {
+  static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kTraffic);
+  template <class Keys, class Name>
+  static void List(Keys& keys, Name& name) {
+    TrafficKeys(keys, name.traffic, name.nav_mode);
+  }
+};
+
 // The three traffic records differ in length alone.
 template <class Record>
 void ApplyTrafficStyle(Record&& record, TrafficDrawDescriptor& traffic) {
@@ -46,15 +60,12 @@ void MapResourceTransform::ParseTrafficBubbleResourceName(const std::string& res
                                                           std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto traffic = Publish<TrafficDrawDescriptor>(out);
   traffic->bubble_kind = kKindCode;
-  const std::string_view payload = StripPrefixAndMarker(resource_name, MarkerOf(BubbleKind::kTraffic));
-  Json::Value root;
-  if (!JsonUtil::ParseObject(payload, root)) {
+  const std::string_view payload = StripPrefixAndMarker(resource_name, TrafficNames::kMarker);
+  int nav_mode = 1;
+  if (!ReadJsonObject(payload, [&](auto& keys) { TrafficKeys(keys, *traffic, nav_mode); })) {
     KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, "parse json failed: " << payload);
     return;
   }
-  int nav_mode = 1;
-  JsonKeyReader keys(root);
-  TrafficKeys(keys, *traffic, nav_mode);
 
   BubbleLayerConfigContainer config = context_->GetBubbleLayerConfigInLock();
   if (traffic->scene == 0) {
@@ -67,12 +78,12 @@ void MapResourceTransform::ParseTrafficBubbleResourceName(const std::string& res
   KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kRoutine, *out);
 }
 
+std::string EncodeTrafficBubbleResourceName(const TrafficDrawDescriptor& traffic, int nav_mode) {
+  return EncodeName<TrafficNames>({traffic, nav_mode});
+}
+
 const BubbleKindInfo kTrafficBubbleInfo = {"TrafficDrawDescriptor", kKindCode,
                                            PayloadWay::kPrefixAndMarkerStripped, "JSON object",
-                                           [](KeyLister& keys) {
-                                             TrafficDrawDescriptor traffic;
-                                             int nav_mode = 1;
-                                             TrafficKeys(keys, traffic, nav_mode);
-                                           }};
+                                           kCodec<TrafficNames>};
 
 }  // namespace kavrix

@@ -9,7 +9,8 @@
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
-#include "util/key_reader.h"
+#include "map_resource/name_codec.h"
+#include "map_resource/resource_name_encoder.h"
 #include "util/tagged_log.h"
 
 namespace kavrix {
@@ -20,16 +21,24 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 10;
 
-template <class Keys, class Turn>
-void TurnKeys(Keys& keys, Turn& turn) {
-  keys.TrueWhenOne("is_force_", turn.is_force);
-  keys.Integer("type", turn.type);
-  keys.Integer("direction", turn.direction);
-  keys.TrueWhenZero("mode", turn.mode_flag);
-  keys.Integer("scene", turn.scene);
-  keys.Text("lan", turn.lan);
-  keys.Integer("distance", turn.distance);
-}
+struct TurnNames : JsonNames<TurnNames, TurnArrowBubbleDrawDescriptor> {
+  static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kTurn);
+  template <class Keys, class Turn>
+  static void List(Keys& keys, Turn& turn) {
+    keys.TrueWhenOne("is_force_", turn.is_force);
+    keys.Integer("type", turn.type);
+    keys.Integer("direction", turn.direction);
+    keys.TrueWhenZero("mode", turn.mode_flag);
+    keys.Integer("scene", turn.scene);
+    keys.Text("lan", turn.lan);
+    keys.Integer("distance", turn.distance);
+  }
+  // A broken payload is no failure.
+  static bool Read(const std::string& name, TurnArrowBubbleDrawDescriptor& turn) {
+    JsonNames::Read(name, turn);
+    return true;
+  }
+};
 
 }  // namespace
 
@@ -37,21 +46,18 @@ void MapResourceTransform::ParseTurnBubbleResourceName(const std::string& resour
                                                        std::shared_ptr<BubbleDrawDescriptor>& out) {
   KAVRIX_LOG(LogTagKavrixMapLayerMgr_TurnArrow, LogLevel::kRoutine, " resource_name:" << resource_name);
   const auto turn = Publish<TurnArrowBubbleDrawDescriptor>(out);
-  const std::string_view payload = StripPrefixAndMarker(resource_name, MarkerOf(BubbleKind::kTurn));
+  const std::string_view payload = StripPrefixAndMarker(resource_name, TurnNames::kMarker);
   turn->bubble_kind = kKindCode;
   turn->style_name = std::move(context_->GetBubbleLayerConfigInLock().turn_style.name);
+  ReadJsonObject(payload, [&](auto& keys) { TurnNames::List(keys, *turn); });
+}
 
-  Json::Value root;
-  if (!JsonUtil::ParseObject(payload, root)) return;
-  JsonKeyReader keys(root);
-  TurnKeys(keys, *turn);
+std::string EncodeTurnBubbleResourceName(const TurnArrowBubbleDrawDescriptor& turn) {
+  return EncodeName<TurnNames>(turn);
 }
 
 const BubbleKindInfo kTurnBubbleInfo = {"TurnArrowBubbleDrawDescriptor", kKindCode,
                                         PayloadWay::kPrefixAndMarkerStripped, "JSON object",
-                                        [](KeyLister& keys) {
-                                          TurnArrowBubbleDrawDescriptor turn;
-                                          TurnKeys(keys, turn);
-                                        }};
+                                        kCodec<TurnNames>};
 
 }  // namespace kavrix

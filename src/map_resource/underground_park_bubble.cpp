@@ -7,7 +7,8 @@
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
-#include "util/key_reader.h"
+#include "map_resource/name_codec.h"
+#include "map_resource/resource_name_encoder.h"
 #include "util/tagged_log.h"
 
 namespace kavrix {
@@ -18,13 +19,16 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 25;
 
-template <class Keys, class Descriptor>
-void UndergroundParkKeys(Keys& keys, Descriptor& bubble) {
-  keys.Text("lan", bubble.lan);
-  keys.TrueWhenZero("mode", bubble.mode_flag);
-  keys.Integer("direction", bubble.direction);
-  keys.Text("name", bubble.content);
-}
+struct UndergroundParkNames : JsonNames<UndergroundParkNames, BubbleDrawDescriptor> {
+  static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kUndergroundPark);
+  template <class Keys, class Descriptor>
+  static void List(Keys& keys, Descriptor& bubble) {
+    keys.Text("lan", bubble.lan);
+    keys.TrueWhenZero("mode", bubble.mode_flag);
+    keys.Integer("direction", bubble.direction);
+    keys.Text("name", bubble.content);
+  }
+};
 
 }  // namespace
 
@@ -32,8 +36,7 @@ void MapResourceTransform::ParseUndergroundParkBubbleResourceName(
     const std::string& resource_name, std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto bubble = Publish<BubbleDrawDescriptor>(out);
   bubble->bubble_kind = kKindCode;
-  const std::string_view payload =
-      StripPrefixAndMarker(resource_name, MarkerOf(BubbleKind::kUndergroundPark));
+  const std::string_view payload = StripPrefixAndMarker(resource_name, UndergroundParkNames::kMarker);
   Json::Value root;
   if (!JsonUtil::ParseObject(payload, root)) {
     KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, "parse json failed: " << payload);
@@ -41,14 +44,15 @@ void MapResourceTransform::ParseUndergroundParkBubbleResourceName(
   }
   KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, payload);
   JsonKeyReader keys(root);
-  UndergroundParkKeys(keys, *bubble);
+  UndergroundParkNames::List(keys, *bubble);
+}
+
+std::string EncodeUndergroundParkBubbleResourceName(const BubbleDrawDescriptor& bubble) {
+  return EncodeName<UndergroundParkNames>(bubble);
 }
 
 const BubbleKindInfo kUndergroundParkBubbleInfo = {"BubbleDrawDescriptor", kKindCode,
                                                    PayloadWay::kPrefixAndMarkerStripped, "JSON object",
-                                                   [](KeyLister& keys) {
-                                                     BubbleDrawDescriptor bubble;
-                                                     UndergroundParkKeys(keys, bubble);
-                                                   }};
+                                                   kCodec<UndergroundParkNames>};
 
 }  // namespace kavrix

@@ -8,7 +8,8 @@
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
-#include "util/key_reader.h"
+#include "map_resource/name_codec.h"
+#include "map_resource/resource_name_encoder.h"
 #include "util/tagged_log.h"
 
 namespace kavrix {
@@ -19,19 +20,22 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 20;
 
-template <class Keys, class Via>
-void ViaCircleKeys(Keys& keys, Via& via) {
-  keys.Integer("scene", via.scene);
-  keys.Text("lan", via.lan);
-  keys.TrueWhenZero("mode", via.mode_flag);
-  keys.Integer("direction", via.direction);
-  keys.Text("route_id", via.route_id);
-  keys.Integer("index", via.index);
-  keys.TrueWhenNonZero("is_selected", via.is_selected);
-  keys.TrueWhenNonZero("is_reached", via.is_reached);
-  keys.TrueWhenNonZero("is_main_map", via.is_main_map);
-  keys.Integer("resource_id", via.resource_id);
-}
+struct ViaCircleNames : JsonNames<ViaCircleNames, ViaPointDrawDescriptor> {
+  static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kViaCircle);
+  template <class Keys, class Via>
+  static void List(Keys& keys, Via& via) {
+    keys.Integer("scene", via.scene);
+    keys.Text("lan", via.lan);
+    keys.TrueWhenZero("mode", via.mode_flag);
+    keys.Integer("direction", via.direction);
+    keys.Text("route_id", via.route_id);
+    keys.Integer("index", via.index);
+    keys.TrueWhenNonZero("is_selected", via.is_selected);
+    keys.TrueWhenNonZero("is_reached", via.is_reached);
+    keys.TrueWhenNonZero("is_main_map", via.is_main_map);
+    keys.Integer("resource_id", via.resource_id);
+  }
+};
 
 }  // namespace
 
@@ -39,21 +43,19 @@ void MapResourceTransform::ParseViaCircleBubbleResourceName(const std::string& r
                                                             std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto via = Publish<ViaPointDrawDescriptor>(out);
   via->bubble_kind = kKindCode;
-  const std::string_view payload = StripPrefixAndMarker(resource_name, MarkerOf(BubbleKind::kViaCircle));
-  Json::Value root;
-  if (!JsonUtil::ParseObject(payload, root)) {
+  const std::string_view payload = StripPrefixAndMarker(resource_name, ViaCircleNames::kMarker);
+  if (!ReadJsonObject(payload, [&](auto& keys) { ViaCircleNames::List(keys, *via); })) {
     KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, "parse json failed: " << payload);
     return;
   }
-  JsonKeyReader keys(root);
-  ViaCircleKeys(keys, *via);
+}
+
+std::string EncodeViaCircleBubbleResourceName(const ViaPointDrawDescriptor& via) {
+  return EncodeName<ViaCircleNames>(via);
 }
 
 const BubbleKindInfo kViaCircleBubbleInfo = {"ViaPointDrawDescriptor", kKindCode,
                                              PayloadWay::kPrefixAndMarkerStripped, "JSON object",
-                                             [](KeyLister& keys) {
-                                               ViaPointDrawDescriptor via;
-                                               ViaCircleKeys(keys, via);
-                                             }};
+                                             kCodec<ViaCircleNames>};
 
 }  // namespace kavrix

@@ -9,33 +9,34 @@
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
+#include "map_resource/name_codec.h"
+#include "map_resource/resource_name_encoder.h"
 #include "map_resource/self_initialised_keys.h"
-#include "util/key_reader.h"
 
 namespace kavrix {
 
 namespace {
 
-template <class Keys, class Descriptor>
-void YawNoticeKeys(Keys& keys, Descriptor& bubble) {
-  SelfInitialisedKeys(keys, bubble);
-  keys.Integer("reason", bubble.reason);
-}
+struct YawNoticeNames : WholeNames<YawNoticeNames, YawNoticeBubbleDrawDescriptor> {
+  static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kYawNotice);
+  template <class Keys, class Descriptor>
+  static void List(Keys& keys, Descriptor& bubble) {
+    SelfInitialisedKeys(keys, bubble);
+    keys.Integer("reason", bubble.reason);
+  }
+};
 
 }  // namespace
 
 bool YawNoticeBubbleDrawDescriptor::InitWithJson(const std::string& text) {
-  Json::Value root;
-  if (!JsonUtil::ParseObject(FindJsonObject(text), root)) return false;
-  JsonKeyReader keys(root);
-  YawNoticeKeys(keys, *this);
-  return true;
+  return YawNoticeNames::ReadObject(text, *this);
+}
+
+std::string EncodeYawNoticeResourceName(const YawNoticeBubbleDrawDescriptor& notice) {
+  return EncodeName<YawNoticeNames>(notice);
 }
 
 const BubbleKindInfo kYawNoticeBubbleInfo = {"YawNoticeBubbleDrawDescriptor", std::nullopt,
-                                             PayloadWay::kWholeName, "JSON object", [](KeyLister& keys) {
-                                               YawNoticeBubbleDrawDescriptor bubble;
-                                               YawNoticeKeys(keys, bubble);
-                                             }};
+                                             PayloadWay::kWholeName, "JSON object", kCodec<YawNoticeNames>};
 
 }  // namespace kavrix

@@ -21,16 +21,29 @@ bool ParseObject(std::string_view text, Json::Value& root) {
   }
 }
 
+namespace {
+
+// "* Line 1, Column 5\n  Missing ..." as "Line 1, Column 5: Missing ..."; of several errors the first.
+std::string OnOneLine(const std::string& report) {
+  const std::size_t end_of_place = report.find("\n  ");
+  if (report.rfind("* ", 0) != 0 || end_of_place == std::string::npos) return report;
+  const std::size_t begin = end_of_place + 3;
+  return report.substr(2, end_of_place - 2) + ": " + report.substr(begin, report.find('\n', begin) - begin);
+}
+
+}  // namespace
+
 bool ParseStrictly(const std::string& text, Json::Value& root, std::string& error) {
   Json::CharReaderBuilder builder;
   Json::CharReaderBuilder::strictMode(&builder.settings_);
   const std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
   try {
-    return reader->parse(text.data(), text.data() + text.size(), &root, &error);
+    if (reader->parse(text.data(), text.data() + text.size(), &root, &error)) return true;
   } catch (const Json::Exception& exception) {
     error = exception.what();
-    return false;
   }
+  error = OnOneLine(error);
+  return false;
 }
 
 const Json::Value* Find(const Json::Value& object, std::string_view key) {

@@ -29,8 +29,8 @@ struct Member {
   const Json::Value* value;
 };
 
-// The members of `object`, filled into `members`, when they are at most N; then their number. nullopt when there are
-// more. A value that is no object has none.
+// The members of `object`, filled into `members`, when they are at most N; then their number. nullopt when
+// there are more. A value that is no object has none.
 template <std::size_t N>
 std::optional<std::size_t> ListMembers(const Json::Value& object, std::array<Member, N>& members) {
   std::size_t count = 0;

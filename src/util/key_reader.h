@@ -69,8 +69,8 @@ class JsonKeyReader {
     return value == nullptr ? current : JsonUtil::AsInt(*value).value_or(current);
   }
 
-  // One walk over the members and short compares cost half of what a look-up a key in the object's map does. An
-  // object with more members than any bubble kind knows keys is looked up in its map.
+  // One walk over the members and short compares cost half of what a look-up a key in the object's map does.
+  // An object with more members than any bubble kind knows keys is looked up in its map.
   const Json::Value* Find(std::string_view key) const {
     if (!member_count_) return JsonUtil::Find(object_, key);
     for (std::size_t i = 0; i < *member_count_; ++i) {
@@ -90,6 +90,16 @@ class JsonKeyReader {
   std::array<JsonUtil::Member, kMostMembers> members_;
   std::optional<std::size_t> member_count_;  // none: more than kMostMembers
 };
+
+// Hands a reader to `list` when the text is a JSON object; false when it is none.
+template <class List>
+bool ReadJsonObject(std::string_view text, List list) {
+  Json::Value root;
+  if (!JsonUtil::ParseObject(text, root)) return false;
+  JsonKeyReader keys(root);
+  list(keys);
+  return true;
+}
 
 // Reads the fields of a split text by index; the names are those that the placing side knows the fields by. A
 // field that does not convert leaves its member alone.

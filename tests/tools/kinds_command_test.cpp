@@ -29,7 +29,7 @@ TEST(KindsCommandTest, TellsWhatANameOfAKindCarries) {
     "keys": [{"key": "content", "type": "text", "rule": ""},
              {"key": "mode", "type": "flag", "rule": "true when 0"},
              {"key": "scene", "type": "integer", "rule": ""},
-             {"key": "sub_text", "type": "text", "rule": "behind the last \"|\" of the content"},
+             {"key": "sub_text", "type": "text", "rule": ""},
              {"key": "direction", "type": "integer, low 16 bits", "rule": ""}],
     "sample": "kavrix://resource/Home|12 min_0_x_0@3.etaBubble"})"));
 }

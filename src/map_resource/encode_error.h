@@ -1,0 +1,37 @@
+#ifndef KAVRIX_MAP_RESOURCE_ENCODE_ERROR_H_
+#define KAVRIX_MAP_RESOURCE_ENCODE_ERROR_H_
+
+#include <cstddef>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+namespace kavrix {
+
+// A character of a text field that a name cannot carry there.
+struct BadCharacter {
+  std::string bytes;        // of the character; of a piece that is not UTF-8, its bytes
+  std::size_t byte_offset;  // in the field's text, from 0
+  std::size_t column;       // in code points, from 1; a piece that is not UTF-8 counts as one
+};
+
+// A value that no name of the kind can carry. The message names the kind, the field, the character and its
+// place where there is one, and says what the reader would have decoded instead.
+class EncodeError : public std::runtime_error {
+ public:
+  EncodeError(const std::string& kind, const std::string& field, const std::string& problem,
+              std::optional<BadCharacter> character = {});
+
+  const std::string& kind() const { return kind_; }    // "etaBubble", or "marker" for marker names
+  const std::string& field() const { return field_; }  // "content"; "cameras[1].speed"; "prefix"
+  const std::optional<BadCharacter>& character() const { return character_; }
+
+ private:
+  std::string kind_;
+  std::string field_;
+  std::optional<BadCharacter> character_;
+};
+
+}  // namespace kavrix
+
+#endif  // KAVRIX_MAP_RESOURCE_ENCODE_ERROR_H_

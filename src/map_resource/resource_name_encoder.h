@@ -1,0 +1,50 @@
+#ifndef KAVRIX_MAP_RESOURCE_RESOURCE_NAME_ENCODER_H_
+#define KAVRIX_MAP_RESOURCE_RESOURCE_NAME_ENCODER_H_
+
+#include <string>
+
+#include "descriptors/descriptors.h"
+#include "map_resource/encode_error.h"
+
+// The placing side: builds the resource name of a bubble from the descriptor that the name shall decode to.
+// Members that names of the kind do not carry (styles, kind codes) are not looked at.
+//
+// The names are canonical: equal bubbles give equal bytes. JSON objects have their keys in reading order, no
+// blanks, and leave out what decodes to the same when left out; "mode" is always there. Inside JSON texts
+// '@', '.' and control characters are \u escapes, so every text in UTF-8 comes through.
+//
+// Each function decodes its own name before it returns it, and throws EncodeError for what would not come
+// back: a separator or another kind's marker in a field of a kind without JSON, a "|" in the ETA's second
+// text, bytes that are not UTF-8, a prefix that breaks names.
+namespace kavrix {
+
+// `nav_mode` selects the style record together with the scene; the descriptor does not hold it.
+std::string EncodeTrafficBubbleResourceName(const TrafficDrawDescriptor& traffic, int nav_mode = 1);
+std::string EncodeRouteNameBubbleResourceName(const BubbleDrawDescriptor& bubble);
+std::string EncodeIndoorEntriesBubbleResourceName(const IndoorEntriesBubbleDrawDescriptor& entries);
+std::string EncodeCompanionBubbleResourceName(const CompanionBubbleDrawDescriptor& companion);
+std::string EncodeCameraBubbleResourceName(const CameraDrawDescriptor& camera);
+std::string EncodeEtaBubbleResourceName(const DestNameEtaDrawDescriptor& eta);
+std::string EncodeRouteLabelBubbleResourceName(const BubbleDrawDescriptor& label);
+std::string EncodeRouteExplainBubbleResourceName(const ExplainBubbleDrawDescriptor& explain);
+std::string EncodeMarkerBubbleResourceName(const BubbleDrawDescriptor& bubble);
+std::string EncodeLightCountdownBubbleResourceName(const LightCountdownTimerDrawDescriptor& light);
+std::string EncodeMultiLightCountdownBubbleResourceName(const MultiLightCountdownTimerDrawDescriptor& lights);
+std::string EncodeViaCircleBubbleResourceName(const ViaPointDrawDescriptor& via);
+std::string EncodeLightWaitBubbleResourceName(const LightWaitBubbleDrawDescriptor& bubble);
+std::string EncodeTurnBubbleResourceName(const TurnArrowBubbleDrawDescriptor& turn);
+std::string EncodeHdLongSolidBubbleResourceName(const HDLongSolidBubbleDrawDescriptor& bubble);
+std::string EncodeUndergroundParkBubbleResourceName(const BubbleDrawDescriptor& bubble);
+std::string EncodeForceDotBubbleResourceName(const BubbleDrawDescriptor& bubble);
+std::string EncodeForcePollBubbleResourceName(const BubbleDrawDescriptor& bubble);
+std::string EncodeYawNoticeResourceName(const YawNoticeBubbleDrawDescriptor& notice);
+std::string EncodeRouteAccidentResourceName(const RouteAccidentBubbleDrawDescriptor& accident);
+std::string EncodeSafeWarningResourceName(const SafeWarningBubbleDrawDescriptor& warning);
+std::string EncodeLaneChangeResourceName(const HDLaneChangeBubbleDrawDescriptor& change);
+
+// A marker name, for the second entry point. Its image key is made of the others and not looked at.
+std::string EncodeMarkerResourceName(const MarkerDrawDescriptor& marker);
+
+}  // namespace kavrix
+
+#endif  // KAVRIX_MAP_RESOURCE_RESOURCE_NAME_ENCODER_H_

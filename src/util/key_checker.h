@@ -1,0 +1,102 @@
+#ifndef KAVRIX_UTIL_KEY_CHECKER_H_
+#define KAVRIX_UTIL_KEY_CHECKER_H_
+
+#include <cstdint>
+#include <limits>
+#include <set>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "util/json_util.h"
+
+namespace kavrix {
+
+// A member of an object that the decoder would not read as it stands.
+class KeyError : public std::runtime_error {
+ public:
+  KeyError(std::string key, const std::string& problem) : runtime_error(problem), key_(std::move(key)) {}
+  const std::string& key() const { return key_; }  // with its path, such as "cameras[1].speed"
+
+ private:
+  std::string key_;
+};
+
+// Reads an object as JsonKeyReader does, but takes nothing that the decoder would change or pass over: throws
+// KeyError for an unknown key, a value of another type, an integer that its member cannot hold, a flag that
+// is not 0 or 1; the text says what the decoder would have made of it. An absent key counts as the decoder
+// counts it.
+class KeyChecker {
+ public:
+  // `path` stands in front of keys in errors.
+  explicit KeyChecker(const Json::Value& object, std::string path = "");
+
+  void Text(std::string_view key, std::string& text);
+
+  template <class Int>
+  void Integer(std::string_view key, Int& number) {
+    number = static_cast<Int>(
+        CheckedInteger(key, number, std::numeric_limits<Int>::min(), std::numeric_limits<Int>::max()));
+  }
+
+  void TrueWhenZero(std::string_view key, bool& flag) {
+    flag = CheckedFlag(key, flag ? 1 : 0, [](int value) { return value == 0; });
+  }
+  void TrueWhenOne(std::string_view key, bool& flag) {
+    flag = CheckedFlag(key, flag ? 1 : 0, [](int value) { return value == 1; });
+  }
+  void TrueWhenNonZero(std::string_view key, bool& flag) {
+    flag = CheckedFlag(key, flag ? 1 : 0, [](int value) { return value != 0; });
+  }
+
+  template <class Item, class ItemKeys>
+  void Records(std::string_view key, std::vector<Item>& items, ItemKeys item_keys) {
+    const Json::Value* const array = TakeArray(key);
+    if (array == nullptr) return;
+    for (const Json::Value& element : *array) {
+      KeyChecker keys(element, path_ + std::string(key) + "[" + std::to_string(items.size()) + "]");
+      Item item;
+      item_keys(keys, item);
+      keys.RequireAllRead();
+      items.push_back(std::move(item));
+    }
+  }
+
+  void Texts(std::string_view key, std::vector<std::string>& texts);
+
+  // Fields by index, under their names. A field that is absent leaves its member alone.
+  void Text(std::size_t, const char* name, std::string& text) { Text(name, text); }
+  template <class Int>
+  void Integer(std::size_t, const char* name, Int& number) {
+    Integer(name, number);
+  }
+  template <class Int>
+  void LeadingInteger(std::size_t, const char* name, Int& number) {
+    Integer(name, number);
+  }
+  void TrueWhenZero(std::size_t, const char* name, bool& flag) {
+    if (JsonUtil::Find(object_, name) != nullptr) TrueWhenZero(name, flag);
+  }
+
+  // Throws KeyError for the first member that no verb asked for.
+  void RequireAllRead() const;
+
+ private:
+  const Json::Value* Take(std::string_view key);
+  const Json::Value* TakeArray(std::string_view key);
+  std::int64_t CheckedInteger(std::string_view key, std::int64_t current, std::int64_t least,
+                              std::int64_t most);
+  bool CheckedFlag(std::string_view key, int current, bool (*rule)(int value));
+  // `decoded` is what the decoder would make of the value.
+  [[noreturn]] void Fail(std::string_view key, const std::string& expected, const Json::Value& found,
+                         const std::string& decoded) const;
+
+  const Json::Value& object_;
+  std::string path_;
+  std::set<std::string, std::less<>> read_;
+};
+
+}  // namespace kavrix
+
+#endif  // KAVRIX_UTIL_KEY_CHECKER_H_

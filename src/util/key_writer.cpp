@@ -1,0 +1,67 @@
+#include "util/key_writer.h"
+
+#include <utility>
+
+#include "util/utf8.h"
+
+namespace kavrix {
+namespace {
+
+std::string UnicodeEscape(char32_t c) {
+  constexpr char kDigits[] = "0123456789abcdef";
+  return {'\\', 'u', '0', '0', kDigits[c >> 4 & 0xF], kDigits[c & 0xF]};
+}
+
+std::string Joined(const std::vector<std::string>& parts) {
+  std::string joined;
+  for (const std::string& part : parts) {
+    if (!joined.empty()) joined += ',';
+    joined += part;
+  }
+  return joined;
+}
+
+}  // namespace
+
+void JsonKeyWriter::Texts(std::string_view key, const std::vector<std::string>& texts) {
+  std::vector<std::string> elements;
+  for (const std::string& text : texts) {
+    elements.push_back(Quoted(std::string(key) + "[" + std::to_string(elements.size()) + "]", text));
+  }
+  AddArray(key, elements);
+}
+
+std::string JsonKeyWriter::ObjectWithout(const JsonKeyWriter& defaults) const {
+  std::vector<std::string> members;
+  for (std::size_t i = 0; i < entries_.size(); ++i) {
+    const Entry& entry = entries_[i];
+    if (entry.presence == Presence::kUnlessDefault && entry.json == defaults.entries_[i].json) continue;
+    members.push_back('"' + entry.key + "\":" + entry.json);
+  }
+  return "{" + Joined(members) + "}";
+}
+
+void JsonKeyWriter::AddArray(std::string_view key, const std::vector<std::string>& elements) {
+  Add(key, "[" + Joined(elements) + "]", Presence::kUnlessDefault);
+}
+
+std::string JsonKeyWriter::Quoted(std::string_view key, std::string_view text) {
+  std::string quoted = "\"";
+  std::size_t offset = 0;
+  while (offset < text.size()) {
+    const Utf8Piece piece = NextUtf8(text.substr(offset));
+    const char32_t c = piece.code_point;
+    if (!piece.is_valid && !bad_) bad_ = BadText{std::string(key), std::string(text), offset, "is not UTF-8"};
+    if (piece.is_valid && (c == '"' || c == '\\')) {
+      quoted += {'\\', static_cast<char>(c)};
+    } else if (piece.is_valid && (c < 0x20 || (escapes_ == Escapes::kForNames && (c == '@' || c == '.')))) {
+      quoted += UnicodeEscape(c);
+    } else {
+      quoted += text.substr(offset, piece.length);
+    }
+    offset += piece.length;
+  }
+  return quoted + '"';
+}
+
+}  // namespace kavrix
