@@ -1,0 +1,40 @@
+#ifndef KAVRIX_TESTS_PLOG_VERSIONS_COMMON_H_
+#define KAVRIX_TESTS_PLOG_VERSIONS_COMMON_H_
+
+#include <cstddef>
+#include <sstream>
+#include <string>
+
+// What the stand-ins for newer plog versions share. They have the constructor and the getters of those
+// versions and nothing behind them.
+namespace plog {
+
+enum Severity { none = 0, fatal = 1, error = 2, warning = 3, info = 4, debug = 5, verbose = 6 };
+
+class RecordTexts {
+ public:
+  RecordTexts(const char* function, const char* file) : function_(function), file_(file) {}
+
+  void Append(const std::string& text) { message_ += text.c_str(); }  // those versions cut at a NUL
+  const char* Message() const { return message_.c_str(); }
+  const char* File() const { return file_; }
+
+  // The word before the parenthesis of a function's signature.
+  const char* Function() const {
+    const std::string signature = function_;
+    const std::size_t end = signature.find('(');
+    const std::size_t begin = signature.rfind(' ', end) + 1;
+    bare_function_ = signature.substr(begin, end - begin);
+    return bare_function_.c_str();
+  }
+
+ private:
+  const char* function_;
+  const char* file_;
+  mutable std::string bare_function_;
+  std::string message_;
+};
+
+}  // namespace plog
+
+#endif  // KAVRIX_TESTS_PLOG_VERSIONS_COMMON_H_
