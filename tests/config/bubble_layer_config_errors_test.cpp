@@ -1,0 +1,163 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "config/bubble_layer_config_file.h"
+
+// What a configuration file must not hold, and the exact words that say so.
+namespace kavrix::test {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
+// The message of the error, empty when there is none.
+std::string ErrorOf(const std::string& json_text) {
+  try {
+    ParseBubbleLayerConfig(json_text);
+    return "";
+  } catch (const ConfigError& error) {
+    return error.what();
+  }
+}
+
+std::string ErrorOfLayer(const std::string& members) {
+  return ErrorOf(R"({"bubble_layer":{)" + members + "}}");
+}
+
+std::string ErrorOfValues(const std::string& record, const std::string& values) {
+  return ErrorOfLayer("\"" + record + R"(":{"values":)" + values + "}");
+}
+
+constexpr char kWord[] = "an integer from 0 to 4294967295 or a text such as \"0xffff0000\"";
+
+TEST(BubbleLayerConfigErrorsTest, TextThatIsNoJson) {
+  for (const std::string text : {"", "{", "{} x", "// c\n{}", "{'a':1}", R"({"context_name":"a",})"}) {
+    EXPECT_THAT(ErrorOf(text), StartsWith("not valid JSON: ")) << text;
+  }
+}
+
+TEST(BubbleLayerConfigErrorsTest, KeyThatStandsTwice) {
+  EXPECT_THAT(ErrorOf(R"({"context_name":"a","context_name":"b"})"),
+              HasSubstr("Duplicate key: 'context_name'"));
+  EXPECT_THAT(ErrorOfLayer(R"("turn_style":{},"turn_style":{})"), HasSubstr("Duplicate key: 'turn_style'"));
+}
+
+TEST(BubbleLayerConfigErrorsTest, RootThatIsNoObject) {
+  EXPECT_EQ(ErrorOf("[1]"), "the configuration: expected an object, found [1]");
+}
+
+TEST(BubbleLayerConfigErrorsTest, UnknownKey) {
+  EXPECT_EQ(
+      ErrorOf(R"({"bubble_layers":{}})"),
+      "unknown key \"bubble_layers\", expected \"context_name\", \"multi_light_type\" or \"bubble_layer\"");
+}
+
+TEST(BubbleLayerConfigErrorsTest, ContextNameThatIsNoText) {
+  EXPECT_EQ(ErrorOf(R"({"context_name":5})"), "context_name: expected a text, found 5");
+  EXPECT_EQ(ErrorOf(R"({"context_name":null})"), "context_name: expected a text, found null");
+}
+
+TEST(BubbleLayerConfigErrorsTest, MultiLightTypeThatIsNo32BitInteger) {
+  EXPECT_EQ(ErrorOf(R"({"multi_light_type":"1"})"),
+            "multi_light_type: expected a 32-bit integer, found \"1\"");
+  EXPECT_EQ(ErrorOf(R"({"multi_light_type":1.0})"), "multi_light_type: expected a 32-bit integer, found 1.0");
+  EXPECT_EQ(ErrorOf(R"({"multi_light_type":2147483648})"),
+            "multi_light_type: expected a 32-bit integer, found 2147483648");
+  EXPECT_EQ(ErrorOf(R"({"multi_light_type":2147483647})"), "");
+  EXPECT_EQ(ErrorOf(R"({"multi_light_type":-2147483648})"), "");
+}
+
+TEST(BubbleLayerConfigErrorsTest, BubbleLayerThatIsNoObject) {
+  EXPECT_EQ(ErrorOf(R"({"bubble_layer":[]})"), "bubble_layer: expected an object, found []");
+}
+
+TEST(BubbleLayerConfigErrorsTest, UnknownRecord) {
+  EXPECT_EQ(ErrorOfLayer(R"("trafic_style":{})"), "bubble_layer: unknown record \"trafic_style\"");
+  EXPECT_EQ(ErrorOfLayer(R"("unread_style_14":{})"), "bubble_layer: unknown record \"unread_style_14\"");
+  EXPECT_EQ(ErrorOfLayer(R"("":{})"), "bubble_layer: unknown record \"\"");
+}
+
+TEST(BubbleLayerConfigErrorsTest, RecordThatIsNoObject) {
+  EXPECT_EQ(ErrorOfLayer(R"("traffic_style":[1,2])"), "traffic_style: expected an object, found [1,2]");
+}
+
+TEST(BubbleLayerConfigErrorsTest, UnknownKeyOfARecord) {
+  EXPECT_EQ(ErrorOfLayer(R"("traffic_style":{"value":[]})"),
+            "traffic_style: unknown key \"value\", expected \"name\" or \"values\"");
+}
+
+TEST(BubbleLayerConfigErrorsTest, NameThatIsNoText) {
+  EXPECT_EQ(ErrorOfLayer(R"("traffic_style":{"name":7})"), "traffic_style.name: expected a text, found 7");
+}
+
+TEST(BubbleLayerConfigErrorsTest, ValuesThatAreNoArray) {
+  EXPECT_EQ(ErrorOfValues("traffic_style", "5"), "traffic_style.values: expected an array, found 5");
+}
+
+TEST(BubbleLayerConfigErrorsTest, TooManyValues) {
+  EXPECT_EQ(ErrorOfValues("turn_style", "[1,2,3]"), "turn_style.values: expected at most 2 values, found 3");
+  EXPECT_EQ(ErrorOfValues("traffic_scene_style", "[0,0,0,0,0,0,0,0,0,0,0,0]"),
+            "traffic_scene_style.values: expected at most 11 values, found 12");
+}
+
+TEST(BubbleLayerConfigErrorsTest, RealWhereAWordStands) {
+  EXPECT_EQ(ErrorOfValues("traffic_style", "[0,1.5]"),
+            std::string("traffic_style value 2: expected ") + kWord + ", found 1.5");
+  EXPECT_EQ(ErrorOfValues("traffic_style", "[1.0]"),
+            std::string("traffic_style value 1: expected ") + kWord + ", found 1.0");
+}
+
+TEST(BubbleLayerConfigErrorsTest, WordOutOfRange) {
+  for (const std::string number : {"-1", "4294967296", "9223372036854775808", "18446744073709551615"}) {
+    EXPECT_EQ(ErrorOfValues("eta_style", "[0,0," + number + "]"),
+              std::string("eta_style value 3: expected ") + kWord + ", found " + number);
+  }
+}
+
+TEST(BubbleLayerConfigErrorsTest, ThingsThatAreNoWord) {
+  for (const std::string value :
+       {"null", "true", "[]", "{}", R"("")", R"("0x")", R"("ff")", R"("255")", R"("0XFF")", R"("0xfg")",
+        R"("0x100000000")", R"(" 0xff")", R"("0xff ")", R"("0x-1")", R"("0x+1")", R"("-0x1")", R"("0x 1")",
+        R"("#ff0000")", R"("0x0x1")"}) {
+    EXPECT_EQ(ErrorOfValues("camera_style", "[" + value + "]"),
+              std::string("camera_style value 1: expected ") + kWord + ", found " + value);
+  }
+}
+
+TEST(BubbleLayerConfigErrorsTest, ThingsThatAreNoFloat) {
+  for (const std::string value : {"null", "true", "[]", "{}", R"("1.0")", R"("0x3f800000")"}) {
+    EXPECT_EQ(ErrorOfValues("companion_style", "[0,0,0,0,0,0," + value + "]"),
+              "companion_style value 7: expected a number, found " + value);
+  }
+}
+
+TEST(BubbleLayerConfigErrorsTest, FloatOutOfRange) {
+  EXPECT_EQ(ErrorOfValues("route_label_style", "[0,0,0,3.5e38]"),
+            "route_label_style value 4: expected a number that a float can hold, found 3.5e+38");
+  EXPECT_EQ(ErrorOfValues("route_label_style", "[0,0,0,-3.5e38]"),
+            "route_label_style value 4: expected a number that a float can hold, found -3.5e+38");
+}
+
+TEST(BubbleLayerConfigErrorsTest, NumberThatEvenADoubleCannotHold) {
+  EXPECT_THAT(ErrorOfValues("route_label_style", "[0,0,0,1e400]"), HasSubstr("1e"));
+}
+
+TEST(BubbleLayerConfigErrorsTest, NothingOfABrokenConfigurationIsLoaded) {
+  BubbleLayerConfigFile file = ParseBubbleLayerConfig(R"({"context_name":"earlier"})");
+  const std::string broken =
+      R"({"bubble_layer":{"eta_style":{"name":"e"},"turn_style":5},"context_name":"new"})";
+  EXPECT_THROW(file = ParseBubbleLayerConfig(broken), ConfigError);
+  EXPECT_EQ(file.context_name, "earlier");
+  EXPECT_EQ(file.bubble_layer.eta_style.name, "");
+}
+
+TEST(BubbleLayerConfigErrorsTest, LongFindIsCut) {
+  const std::string text(100, 'a');
+  EXPECT_EQ(ErrorOf(R"({"multi_light_type":")" + text + "\"}"),
+            "multi_light_type: expected a 32-bit integer, found \"" + text.substr(0, 59) + "...");
+}
+
+}  // namespace
+}  // namespace kavrix::test
