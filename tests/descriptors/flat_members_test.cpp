@@ -1,0 +1,114 @@
+#include "descriptors/flat_members.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "descriptors/descriptors.h"
+
+namespace kavrix {
+
+static void PrintTo(const FlatMember& member, std::ostream* stream) {
+  *stream << member.path << "=" << ::testing::PrintToString(member.value);
+}
+
+namespace test {
+namespace {
+
+using ::testing::ElementsAre;
+
+FlatMember Integer(const char* path, std::int64_t value) { return {path, value}; }
+FlatMember Flag(const char* path, bool value) { return {path, value}; }
+FlatMember Real(const char* path, float value) { return {path, value}; }
+FlatMember Text(const char* path, const char* value) { return {path, std::string(value)}; }
+
+// What a type adds behind the 14 values of the base.
+std::vector<FlatMember> OwnMembers(const BubbleDrawDescriptor& descriptor) {
+  std::vector<FlatMember> members = FlatMembers(descriptor);
+  members.erase(members.begin(), members.begin() + 14);
+  return members;
+}
+
+TEST(FlatMembersTest, BaseMembersComeFirstInDeclarationOrder) {
+  BubbleDrawDescriptor bubble;
+  bubble.scene = -1;
+  bubble.content = "c";
+  bubble.lan = "l";
+  bubble.bubble_kind = 65535;
+  bubble.type = -2;
+  bubble.direction = -3;
+  bubble.mode_flag = true;
+  bubble.style_name = "s";
+  bubble.icon = "i";
+  bubble.style_word = 4294967295U;
+  bubble.style_scale = {1.5F, 2.5F};
+  bubble.selected = true;
+  bubble.is_force = true;
+  EXPECT_THAT(FlatMembers(bubble),
+              ElementsAre(Integer("scene", -1), Text("content", "c"), Text("lan", "l"),
+                          Integer("bubble_kind", 65535), Integer("type", -2), Integer("direction", -3),
+                          Flag("mode_flag", true), Text("style_name", "s"), Text("icon", "i"),
+                          Integer("style_word", 4294967295), Real("style_scale[0]", 1.5F),
+                          Real("style_scale[1]", 2.5F), Flag("selected", true), Flag("is_force", true)));
+}
+
+TEST(FlatMembersTest, RecordsOfAListStandUnderTheirIndexAndName) {
+  CameraDrawDescriptor camera;
+  camera.cameras = {{1, 60}, {2, 80}};
+  camera.distance = 300;
+  camera.snap_text = "s";
+  camera.plain_style_values = {14, 15, 16};
+  camera.mode_style_value = 17;
+  EXPECT_THAT(OwnMembers(camera),
+              ElementsAre(Integer("cameras[0].type", 1), Integer("cameras[0].speed", 60),
+                          Integer("cameras[1].type", 2), Integer("cameras[1].speed", 80),
+                          Integer("distance", 300), Text("snap_text", "s"),
+                          Integer("plain_style_values[0]", 14), Integer("plain_style_values[1]", 15),
+                          Integer("plain_style_values[2]", 16), Integer("mode_style_value", 17)));
+}
+
+TEST(FlatMembersTest, PlainValuesOfAListStandUnderTheirIndex) {
+  ExplainBubbleDrawDescriptor explain;
+  explain.second_content = {"a", ""};
+  EXPECT_THAT(OwnMembers(explain),
+              ElementsAre(Text("uid", ""), Text("explain_content", ""), Text("second_content[0]", "a"),
+                          Text("second_content[1]", ""), Integer("second_type", 0), Integer("scene_type", 0),
+                          Integer("bubble_type", 0)));
+}
+
+TEST(FlatMembersTest, MembersBehindAListOfRecordsStandUnderTheirOwnNames) {
+  MultiLightCountdownTimerDrawDescriptor lights;
+  lights.light_descriptors.resize(1);
+  EXPECT_THAT(
+      OwnMembers(lights),
+      ElementsAre(Integer("style", 0), Text("id", ""), Flag("is_animation", false),
+                  Integer("light_descriptors[0].light_type", 0),
+                  Integer("light_descriptors[0].turn_arrow_type", -1),
+                  Integer("light_descriptors[0].remain_time", 0), Text("light_descriptors[0].text", ""),
+                  Integer("light_descriptors[0].total_time", 0)));
+}
+
+TEST(FlatMembersTest, EmptyListHasNoMembers) {
+  EXPECT_THAT(OwnMembers(MultiLightCountdownTimerDrawDescriptor()),
+              ElementsAre(Integer("style", 0), Text("id", ""), Flag("is_animation", false)));
+}
+
+TEST(FlatMembersTest, CompanionHasTwoScenesUnderOneName) {
+  CompanionBubbleDrawDescriptor companion;
+  companion.scene = 5;
+  const auto members = FlatMembers(companion);
+  EXPECT_EQ(members.front(), Integer("scene", 0));
+  EXPECT_EQ(members.back(), Integer("scene", 5));
+}
+
+TEST(FlatMembersTest, ValuesOfANewDescriptorAreDefaults) {
+  for (const FlatMember& member : FlatMembers(TrafficDrawDescriptor()))
+    EXPECT_TRUE(IsDefault(member)) << member.path;
+  EXPECT_FALSE(IsDefault(Integer("n", 1)));
+  EXPECT_FALSE(IsDefault(Flag("f", true)));
+  EXPECT_FALSE(IsDefault(Real("r", -0.5F)));
+  EXPECT_FALSE(IsDefault(Text("t", " ")));
+}
+
+}  // namespace
+}  // namespace test
+}  // namespace kavrix
