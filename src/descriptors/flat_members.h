@@ -23,7 +23,7 @@ inline bool operator==(const FlatMember& a, const FlatMember& b) {
 // All members of the object in declaration order, lists and records taken apart.
 std::vector<FlatMember> FlatMembers(const BubbleDrawDescriptor& descriptor);
 
-// Whether the value is what a new descriptor holds: zero, false or empty. A value inside a list never is.
+// Whether the value is zero, false or empty: what a new descriptor holds.
 bool IsDefault(const FlatMember& member);
 
 }  // namespace kavrix
