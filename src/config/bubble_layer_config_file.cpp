@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "util/json_util.h"
+#include "util/utf8.h"
 
 namespace kavrix {
 namespace {
@@ -44,7 +45,7 @@ bool IsFloat(std::string_view record, std::size_t number) {
 std::string Found(const Json::Value& value) {
   std::string text = JsonUtil::ToText(value);
   constexpr std::size_t kLongest = 60;
-  if (text.size() > kLongest) text = text.substr(0, kLongest) + "...";
+  if (text.size() > kLongest) text = ToValidUtf8(text.substr(0, kLongest)) + "...";
   return text;
 }
 
@@ -96,8 +97,8 @@ template <class Record>
 void ReadValues(const std::string& record_name, const Json::Value& values, Record& record) {
   if (!values.isArray()) Fail(record_name + ".values", "an array", values);
   if (values.size() > Record::kValueCount) {
-    throw ConfigError(record_name + ".values: expected at most " + std::to_string(Record::kValueCount) +
-                      " values, found " + std::to_string(values.size()));
+    throw ConfigError(record_name + " value " + std::to_string(Record::kValueCount + 1) + ": expected at most " +
+                      std::to_string(Record::kValueCount) + " values, found " + std::to_string(values.size()));
   }
   std::size_t number = 0;
   for (const Json::Value& value : values) {

@@ -96,7 +96,7 @@ void FailOfLoss(std::string_view marker, const std::string& name) {
 }
 
 void FailOfKey(std::string_view marker, const KeyError& error) {
-  throw EncodeError(KindName(marker), error.key(), error.what());
+  throw EncodeError(KindName(marker), error.key().empty() ? "fields" : error.key(), error.what());
 }
 
 void FailOfText(std::string_view marker, const BadText& bad, const std::string& consequence) {

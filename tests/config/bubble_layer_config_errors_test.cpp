@@ -51,7 +51,7 @@ TEST(BubbleLayerConfigErrorsTest, RootThatIsNoObject) {
 TEST(BubbleLayerConfigErrorsTest, UnknownKey) {
   EXPECT_EQ(
       ErrorOf(R"({"bubble_layers":{}})"),
-      "unknown key \"bubble_layers\", expected \"context_name\", \"multi_light_type\" or \"bubble_layer\"");
+      "the configuration: unknown key \"bubble_layers\", expected \"context_name\", \"multi_light_type\" or \"bubble_layer\"");
 }
 
 TEST(BubbleLayerConfigErrorsTest, ContextNameThatIsNoText) {
@@ -74,9 +74,9 @@ TEST(BubbleLayerConfigErrorsTest, BubbleLayerThatIsNoObject) {
 }
 
 TEST(BubbleLayerConfigErrorsTest, UnknownRecord) {
-  EXPECT_EQ(ErrorOfLayer(R"("trafic_style":{})"), "bubble_layer: unknown record \"trafic_style\"");
-  EXPECT_EQ(ErrorOfLayer(R"("unread_style_14":{})"), "bubble_layer: unknown record \"unread_style_14\"");
-  EXPECT_EQ(ErrorOfLayer(R"("":{})"), "bubble_layer: unknown record \"\"");
+  EXPECT_EQ(ErrorOfLayer(R"("trafic_style":{})"), "bubble_layer: unknown key \"trafic_style\", expected a record such as \"traffic_style\"");
+  EXPECT_EQ(ErrorOfLayer(R"("unread_style_14":{})"), "bubble_layer: unknown key \"unread_style_14\", expected a record such as \"traffic_style\"");
+  EXPECT_EQ(ErrorOfLayer(R"("":{})"), "bubble_layer: unknown key \"\", expected a record such as \"traffic_style\"");
 }
 
 TEST(BubbleLayerConfigErrorsTest, RecordThatIsNoObject) {
@@ -97,9 +97,9 @@ TEST(BubbleLayerConfigErrorsTest, ValuesThatAreNoArray) {
 }
 
 TEST(BubbleLayerConfigErrorsTest, TooManyValues) {
-  EXPECT_EQ(ErrorOfValues("turn_style", "[1,2,3]"), "turn_style.values: expected at most 2 values, found 3");
+  EXPECT_EQ(ErrorOfValues("turn_style", "[1,2,3]"), "turn_style value 3: expected at most 2 values, found 3");
   EXPECT_EQ(ErrorOfValues("traffic_scene_style", "[0,0,0,0,0,0,0,0,0,0,0,0]"),
-            "traffic_scene_style.values: expected at most 11 values, found 12");
+            "traffic_scene_style value 12: expected at most 11 values, found 12");
 }
 
 TEST(BubbleLayerConfigErrorsTest, RealWhereAWordStands) {

@@ -1,0 +1,133 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "map_resource/bubble_markers.h"
+#include "tests/support/random_bubbles.h"
+#include "tests/support/tool.h"
+
+namespace kavrix::test {
+namespace {
+
+using ::testing::HasSubstr;
+
+const std::string kPrefix = "kavrix://resource/";
+
+TEST(EncodeCommandTest, BuildsANameALine) {
+  const ToolResult result =
+      RunTool({"encode"},
+              R"({"kind":"trafficBubble","fields":{"content":"a@b.c","mode":0,"nav_mode":0}}
+{"kind": "etaBubble", "fields": {"content": "Home", "sub_text": "12 min", "mode": 0, "scene": 2, "direction": 3}}
+{"kind":"marker","fields":{"name":"A","mode":1,"marker_type":4}}
+)");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.errors, "");
+  EXPECT_EQ(result.output,
+            kPrefix + "{\"content\":\"a\\u0040b\\u002ec\",\"mode\":0,\"nav_mode\":0}.trafficBubble\n" +
+                kPrefix + "Home|12 min_0__2@3.etaBubble\n" + kPrefix +
+                "{\"mode\":1,\"marker_type\":4,\"name\":\"A\"}.marker\n");
+}
+
+TEST(EncodeCommandTest, WithKindTakesFieldsFromArgumentsOrLines) {
+  const std::string expected = kPrefix + "{\"mode\":0,\"distance\":5}.turnBubble\n";
+  EXPECT_EQ(RunTool({"encode", "--kind", "turnBubble", R"({"distance":5})"}).output, expected);
+  EXPECT_EQ(RunTool({"encode", "--kind", "turnBubble"}, R"({"distance":5})").output, expected);
+}
+
+// The near-misses, each refused in a line of its own while the others go on.
+TEST(EncodeCommandTest, RefusesWhatNamesCannotCarryAndGoesOn) {
+  struct NearMiss {
+    const char* line;
+    const char* error;
+  };
+  const std::vector<NearMiss> near_misses = {
+      {R"({"kind":"labelBubble","fields":{"content":"a_b"}})",
+       R"(labelBubble: content: "_" at byte 1, column 2, separates fields; the reader would have decoded labelBubble {"mode":1})"},
+      {R"({"kind":"trafficBubble","fields":{"mode":2}})",
+       "trafficBubble: mode: expected 0 or 1, found 2; the reader would have decoded false"},
+      {R"({"kind":"viaCircleBubble","fields":{"is_selected":-1}})",
+       "viaCircleBubble: is_selected: expected 0 or 1, found -1; the reader would have decoded true"},
+      {R"({"kind":"cameraBubble","fields":{"direction":70000}})",
+       "cameraBubble: direction: expected an integer from -32768 to 32767, found 70000; the reader would "
+       "have decoded 4464"},
+      {R"({"kind":"cameraBubble","fields":{"distance":5.0}})",
+       "cameraBubble: distance: expected an integer from -2147483648 to 2147483647, found 5.0; the reader "
+       "would have decoded 0"},
+      {R"({"kind":"cameraBubble","fields":{"cameras":[{},{"spead":1}]}})",
+       "cameraBubble: cameras[1].spead: names of this kind do not carry this key; the reader would have "
+       "passed over it"},
+      {R"({"kind":"cameraBubble","fields":{"cameras":{}}})",
+       "cameraBubble: cameras: expected an array, found {}; the reader would have decoded []"},
+      {R"({"kind":"routeExplainBubble","fields":{"second_content":["a",1]}})",
+       "routeExplainBubble: second_content[1]: expected a text, found 1; the reader would have decoded no "
+       "line"},
+      {R"({"kind":"turnBubble","fields":{"lan":7}})",
+       R"(turnBubble: lan: expected a text, found 7; the reader would have decoded "")"},
+      {R"({"kind":"turnBubble","fields":[]})", "turnBubble: fields: expected an object, found []"},
+      {R"({"kind":"inDoorEntriesBubble","fields":{"entries_value":40000}})",
+       "inDoorEntriesBubble: entries_value: expected an integer from -32768 to 32767, found 40000; the "
+       "reader would have decoded -25536"},
+      {R"({"kind":"nope","fields":{}})", "no kind is called \"nope\"; kavrix-resource kinds lists them"},
+      {R"({"kind":"turnBubble"})",
+       R"(expected {"kind": text, "fields": object} and nothing else, found {"kind":"turnBubble"})"},
+      {R"({"kind":"turnBubble","fields":{"lan":"a","lan":"b"}})",
+       "not valid JSON: Line 1, Column 42: Duplicate key: 'lan'"},
+      {"", "not valid JSON: Line 1, Column 1: Syntax error: value, object or array expected."},
+      {R"({"kind":"nameBubble","fields":{"content":"two\nlines"}})",
+       "the name holds a newline, which would end it here; --null ends names in NUL"},
+  };
+  std::string input;
+  std::string errors;
+  std::size_t line = 0;
+  for (const NearMiss& near_miss : near_misses) {
+    input += near_miss.line + std::string("\n");
+    errors += "kavrix-resource: line " + std::to_string(++line) + ": " + near_miss.error + "\n";
+  }
+  const ToolResult result = RunTool({"encode"}, input + R"({"kind":"turnBubble","fields":{}})");
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.errors, errors);
+  EXPECT_EQ(result.output, kPrefix + "{\"mode\":0}.turnBubble\n");
+}
+
+TEST(EncodeCommandTest, WithNullNamesMayHoldNewlines) {
+  using namespace std::string_literals;
+  EXPECT_EQ(
+      RunTool({"encode", "--null"}, R"({"kind":"nameBubble","fields":{"content":"two\nlines"}})").output,
+      kPrefix + "two\nlines_1_0@0.nameBubble\0"s);
+}
+
+TEST(EncodeCommandTest, FieldsOnTheCommandLineNeedAKind) {
+  const ToolResult result = RunTool({"encode", "{}"});
+  EXPECT_EQ(result.status, 2);
+  EXPECT_THAT(result.errors, HasSubstr("--kind"));
+}
+
+TEST(EncodeCommandTest, DecodeFieldsAndEncodeGiveTheCanonicalFormOfEveryDecodableName) {
+  std::string names;
+  for (std::size_t i = 0; i < kBubbleMarkers.size(); ++i) {
+    for (const std::string& name : GoldenNames(static_cast<BubbleKind>(i))) names += name + "\n";
+  }
+  const ToolResult fields = RunTool({"decode", "--fields"}, names);
+  EXPECT_EQ(fields.status, 1);  // the goldens hold broken names too
+  const ToolResult canonical = RunTool({"encode"}, fields.output);
+  EXPECT_EQ(canonical.status, 0);
+  EXPECT_EQ(canonical.errors, "");
+  EXPECT_EQ(RunTool({"decode", "--fields"}, canonical.output).output, fields.output);
+  EXPECT_EQ(canonical.Lines().size(), fields.Lines().size());
+}
+
+TEST(EncodeCommandTest, DecodeFieldsNamesWhatHasNoFields) {
+  const ToolResult result =
+      RunTool({"decode", "--fields"}, "nonsense\n.turnBubble\n" + kPrefix + "{.turnBubble\n" + kPrefix +
+                                          "[].trafficBubble\n" + kPrefix + "\xFF_0_0@1.nameBubble\n");
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(
+      result.errors,
+      "kavrix-resource: name 1: the name holds no marker\n"
+      "kavrix-resource: name 2: the name is shorter than the prefix\n"
+      "kavrix-resource: name 4: trafficBubble: the payload does not parse\n"
+      "kavrix-resource: name 5: nameBubble: content: \"\xEF\xBF\xBD\" at byte 0, column 1, is not UTF-8\n");
+  EXPECT_EQ(result.output, "{\"kind\":\"turnBubble\",\"fields\":{\"mode\":1}}\n");
+}
+
+}  // namespace
+}  // namespace kavrix::test
