@@ -138,7 +138,11 @@ std::string ToMarkdown(const Kind& kind) {
   text += "| carries | type |\n| --- | --- |\n";
   for (const KeyInfo& key : kind.keys) text += fmt::format("| `{}` | {} |\n", key.key, KeyText(key));
   Decoder decoder(MakeDefaultContext(), kind.name_type);
-  text += fmt::format("\nExample:\n\n```\n{}```\n\n", tools::ToText(decoder.Decode(kind.sample), {}));
+  const std::string fields = kind.info.codec.read_fields(kind.sample).value_or("{}");
+  text +=
+      fmt::format("\nPlacing, for `kavrix-resource encode`:\n\n```\n{{\"kind\":\"{}\",\"fields\":{}}}\n```\n",
+                  kind.name(), fields);
+  text += fmt::format("\nDecoding:\n\n```\n{}```\n\n", tools::ToText(decoder.Decode(kind.sample), {}));
   return text;
 }
 
