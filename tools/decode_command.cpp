@@ -95,10 +95,7 @@ void AddDecodeCommand(CLI::App& app, int& status) {
   CLI::App* const command =
       app.add_subcommand("decode", "Decode resource names and show all that comes of them");
   command->add_option("NAME", options->names, "Resource names; without any, one a line from standard input");
-  command
-      ->add_option("--format", options->format,
-                   "text (on a terminal) or json, one object a line (when piped)")
-      ->check(CLI::IsMember({"text", "json"}));
+  AddFormatOption(*command, options->format, {"text", "json"});
   command->add_option("--config", options->config_path,
                       "Configuration file; without it, the built-in default");
   command->add_option("--prefix", options->prefix, "Prefix of the names instead of kavrix://resource/");

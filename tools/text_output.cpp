@@ -32,6 +32,7 @@ class Page {
   void Line(std::string_view label, std::string_view value) {
     text_ += fmt::format("  {:<10}  {}\n", label, value);
   }
+  void Heading(std::string_view label) { text_ += fmt::format("  {}\n", label); }
   void Indented(std::string_view text) { text_ += fmt::format("    {}\n", text); }
   std::string Styled(const fmt::text_style& style, const std::string& text) const {
     return options_.colour ? fmt::format(style, "{}", text) : text;
@@ -70,7 +71,8 @@ void AddMembers(const BubbleDrawDescriptor& descriptor, const TextOptions& optio
 }
 
 void AddRecords(const std::vector<CapturedRecord>& records, Page& page) {
-  page.Line("records", records.empty() ? page.Dim("none") : "");
+  if (records.empty()) return page.Line("records", page.Dim("none"));
+  page.Heading("records");
   std::size_t tag_width = 0;
   std::size_t function_width = 0;
   for (const CapturedRecord& record : records) {

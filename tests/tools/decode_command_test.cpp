@@ -188,6 +188,13 @@ TEST(DecodeCommandTest, TextEscapesWhatWouldForgeLinesOrColours) {
   EXPECT_THAT(result.output, Not(HasSubstr("\x1b")));
 }
 
+TEST(DecodeCommandTest, OnATerminalTextComesInColourUnlessNoColorIsSet) {
+  const ToolResult colour = RunShell("script -qec \"$TOOL decode nonsense\" /dev/null");
+  EXPECT_THAT(colour.output, HasSubstr("\x1b[1mnonsense\x1b[0m\r\n  kind        \x1b[2mnone\x1b[0m\r\n"));
+  const ToolResult plain = RunShell("NO_COLOR=1 script -qec \"$TOOL decode nonsense\" /dev/null");
+  EXPECT_THAT(plain.output, HasSubstr("nonsense\r\n  kind        none\r\n"));
+}
+
 TEST(DecodeCommandTest, UnusableConfigurationIsTroubleAndNothingIsDecoded) {
   const ToolResult result = RunShell(
       R"(printf '{"bubble_layer":{"turn_style":{"values":[1,1.5]}}}' | "$TOOL" decode --config /dev/stdin x)");
