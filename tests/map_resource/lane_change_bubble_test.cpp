@@ -1,17 +1,15 @@
-#include "tests/support/decode_test.h"
+#include "tests/support/whole_name_test.h"
 
 namespace kavrix::test {
 namespace {
 
-using ::testing::ElementsAre;
-
-class LaneChangeBubbleTest : public DecodeTest {
- protected:
-  const HDLaneChangeBubbleDrawDescriptor& DecodeOne(const std::string& payload) {
-    Decode(payload + ".LaneChangeBubble");
-    return Out<HDLaneChangeBubbleDrawDescriptor>();
-  }
+struct LaneChange {
+  static constexpr const char* kMarker = ".LaneChangeBubble";
+  using Descriptor = HDLaneChangeBubbleDrawDescriptor;
 };
+INSTANTIATE_TYPED_TEST_SUITE_P(LaneChange, WholeNameBubbleTest, LaneChange);
+
+using LaneChangeBubbleTest = WholeNameBubbleTest<LaneChange>;
 
 TEST_F(LaneChangeBubbleTest, EveryKeyFillsItsMember) {
   const auto& bubble =
@@ -36,67 +34,10 @@ TEST_F(LaneChangeBubbleTest, PrintsAllItsMembers) {
       "selected:false, is_force:false, target_lane:2, distance:350}");
 }
 
-TEST_F(LaneChangeBubbleTest, KindCodeStaysZeroAndNoStyleIsRead) {
-  DecodeOne(R"({"bubble_kind":9,"style_name":"s","mode":1})");
-  EXPECT_EQ(Base(), HDLaneChangeBubbleDrawDescriptor());
-  EXPECT_EQ(snapshots(), 0);
-}
-
-TEST_F(LaneChangeBubbleTest, NothingIsLoggedBesideTheRequest) {
-  DecodeOne("{}");
-  EXPECT_THAT(records(), ElementsAre(Request()));
-  DecodeOne("broken");
-  EXPECT_THAT(records(), ElementsAre(Request()));
-}
-
-TEST_F(LaneChangeBubbleTest, NameWithoutAReadableObjectGivesANewDescriptorAsConstructed) {
-  for (const std::string payload : {"", "broken", "{", "}", "}{", "[1]", "5", "null", R"({"scene":3,})"}) {
-    const auto earlier = std::make_shared<HDLaneChangeBubbleDrawDescriptor>();
-    out_ = earlier;
-    DecodeOne(payload);
-    EXPECT_NE(out_, earlier);
-    EXPECT_EQ(Base(), HDLaneChangeBubbleDrawDescriptor()) << payload;
-    EXPECT_THAT(records(), ElementsAre(Request()));
-  }
-}
-
-TEST_F(LaneChangeBubbleTest, ModeZeroAloneSetsTheFlagAndAnAbsentOrMistypedOneInvertsIt) {
-  EXPECT_TRUE(DecodeOne(R"({"mode":0})").mode_flag);
-  EXPECT_FALSE(DecodeOne(R"({"mode":1})").mode_flag);
-  EXPECT_FALSE(DecodeOne(R"({"mode":-1})").mode_flag);
-  EXPECT_TRUE(DecodeOne("{}").mode_flag);
-  EXPECT_TRUE(DecodeOne(R"({"mode":"1"})").mode_flag);
-}
-
-TEST_F(LaneChangeBubbleTest, ForceCountsOnlyWhenOneAndUnderItsKeyWithTheUnderscore) {
-  EXPECT_TRUE(DecodeOne(R"({"is_force_":1})").is_force);
-  EXPECT_FALSE(DecodeOne(R"({"is_force_":2})").is_force);
-  EXPECT_FALSE(DecodeOne(R"({"is_force":1})").is_force);
-}
-
-TEST_F(LaneChangeBubbleTest, TypeAndDirectionAreNarrowedTo16Bits) {
-  const auto& bubble = DecodeOne(R"({"type":70000,"direction":-1})");
-  EXPECT_EQ(bubble.type, 4464);
-  EXPECT_EQ(bubble.direction, -1);
-}
-
 TEST_F(LaneChangeBubbleTest, KeysOfAnotherTypeKeepTheDefaults) {
   DecodeOne(R"({"scene":"3","content":5,"lan":[],"type":6.0,"direction":null,"mode":1,"is_force_":true,)"
             R"("target_lane":"2","distance":3000000000})");
   EXPECT_EQ(Base(), HDLaneChangeBubbleDrawDescriptor());
-}
-
-TEST_F(LaneChangeBubbleTest, BracesInsideTextsBelongToTheText) {
-  EXPECT_EQ(DecodeOne(R"({"content":"}{ a } {"})").content, "}{ a } {");
-}
-
-TEST_F(LaneChangeBubbleTest, NameWithoutThePrefixIsReadAsWell) {
-  DecodeWhole(R"({"scene":3}.LaneChangeBubble)");
-  EXPECT_EQ(Base().scene, 3);
-}
-
-TEST_F(LaneChangeBubbleTest, TextAroundTheObjectIsPassedOver) {
-  EXPECT_EQ(DecodeOne(R"(12@{"scene":3}@7)").scene, 3);
 }
 
 TEST_F(LaneChangeBubbleTest, NameShorterThanThePrefixDoesNotThrow) {
@@ -104,14 +45,6 @@ TEST_F(LaneChangeBubbleTest, NameShorterThanThePrefixDoesNotThrow) {
   EXPECT_TRUE(Out<HDLaneChangeBubbleDrawDescriptor>().mode_flag);
   transform_.ParseResourceName<HDLaneChangeBubbleDrawDescriptor>("", out_);
   EXPECT_EQ(Base(), HDLaneChangeBubbleDrawDescriptor());
-}
-
-TEST_F(LaneChangeBubbleTest, InitWithJsonTellsWhetherItFoundAnObject) {
-  HDLaneChangeBubbleDrawDescriptor bubble;
-  EXPECT_FALSE(bubble.InitWithJson("kavrix://resource/broken.LaneChangeBubble"));
-  EXPECT_EQ(bubble, HDLaneChangeBubbleDrawDescriptor());
-  EXPECT_TRUE(bubble.InitWithJson("kavrix://resource/{\"scene\":3}.LaneChangeBubble"));
-  EXPECT_EQ(bubble.scene, 3);
 }
 
 }  // namespace

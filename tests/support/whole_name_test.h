@@ -1,0 +1,97 @@
+#ifndef KAVRIX_TESTS_SUPPORT_WHOLE_NAME_TEST_H_
+#define KAVRIX_TESTS_SUPPORT_WHOLE_NAME_TEST_H_
+
+#include "tests/support/decode_test.h"
+
+namespace kavrix::test {
+
+// What holds for every kind whose descriptor finds its JSON object in the whole name. `Kind` has the marker
+// as kMarker and the descriptor's type as Descriptor.
+template <class Kind>
+class WholeNameBubbleTest : public DecodeTest {
+ protected:
+  const typename Kind::Descriptor& DecodeOne(const std::string& payload) {
+    Decode(payload + Kind::kMarker);
+    return Out<typename Kind::Descriptor>();
+  }
+};
+
+TYPED_TEST_SUITE_P(WholeNameBubbleTest);
+
+TYPED_TEST_P(WholeNameBubbleTest, KindCodeStaysZeroAndNoStyleIsRead) {
+  this->DecodeOne(R"({"bubble_kind":9,"style_name":"s","mode":1})");
+  EXPECT_EQ(this->Base(), typename TypeParam::Descriptor());
+  EXPECT_EQ(this->snapshots(), 0);
+}
+
+TYPED_TEST_P(WholeNameBubbleTest, NothingIsLoggedBesideTheRequest) {
+  this->DecodeOne("{}");
+  EXPECT_THAT(this->records(), ::testing::ElementsAre(this->Request()));
+  this->DecodeOne("broken");
+  EXPECT_THAT(this->records(), ::testing::ElementsAre(this->Request()));
+}
+
+TYPED_TEST_P(WholeNameBubbleTest, NameWithoutAReadableObjectGivesANewDescriptorAsConstructed) {
+  for (const std::string payload : {"", "broken", "{", "}", "}{", "[1]", "5", "null", R"({"scene":3,})"}) {
+    const auto earlier = std::make_shared<typename TypeParam::Descriptor>();
+    this->out_ = earlier;
+    this->DecodeOne(payload);
+    EXPECT_NE(this->out_, earlier);
+    EXPECT_EQ(this->Base(), typename TypeParam::Descriptor()) << payload;
+    EXPECT_THAT(this->records(), ::testing::ElementsAre(this->Request()));
+  }
+}
+
+TYPED_TEST_P(WholeNameBubbleTest, ModeZeroAloneSetsTheFlagAndAnAbsentOrMistypedOneInvertsIt) {
+  EXPECT_TRUE(this->DecodeOne(R"({"mode":0})").mode_flag);
+  EXPECT_FALSE(this->DecodeOne(R"({"mode":1})").mode_flag);
+  EXPECT_FALSE(this->DecodeOne(R"({"mode":-1})").mode_flag);
+  EXPECT_TRUE(this->DecodeOne("{}").mode_flag);
+  EXPECT_TRUE(this->DecodeOne(R"({"mode":"1"})").mode_flag);
+}
+
+TYPED_TEST_P(WholeNameBubbleTest, ForceCountsOnlyWhenOneAndUnderItsKeyWithTheUnderscore) {
+  EXPECT_TRUE(this->DecodeOne(R"({"is_force_":1})").is_force);
+  EXPECT_FALSE(this->DecodeOne(R"({"is_force_":2})").is_force);
+  EXPECT_FALSE(this->DecodeOne(R"({"is_force":1})").is_force);
+}
+
+TYPED_TEST_P(WholeNameBubbleTest, TypeAndDirectionAreNarrowedTo16Bits) {
+  const auto& bubble = this->DecodeOne(R"({"type":70000,"direction":-1})");
+  EXPECT_EQ(bubble.type, 4464);
+  EXPECT_EQ(bubble.direction, -1);
+}
+
+TYPED_TEST_P(WholeNameBubbleTest, BracesInsideTextsBelongToTheText) {
+  EXPECT_EQ(this->DecodeOne(R"({"content":"}{ a } {"})").content, "}{ a } {");
+}
+
+TYPED_TEST_P(WholeNameBubbleTest, NameWithoutThePrefixIsReadAsWell) {
+  this->DecodeWhole(R"({"scene":3})" + std::string(TypeParam::kMarker));
+  EXPECT_EQ(this->Base().scene, 3);
+}
+
+TYPED_TEST_P(WholeNameBubbleTest, TextAroundTheObjectIsPassedOver) {
+  EXPECT_EQ(this->DecodeOne(R"(12@{"scene":3}@7)").scene, 3);
+}
+
+TYPED_TEST_P(WholeNameBubbleTest, InitWithJsonTellsWhetherItFoundAnObject) {
+  typename TypeParam::Descriptor bubble;
+  EXPECT_FALSE(bubble.InitWithJson(std::string("kavrix://resource/broken") + TypeParam::kMarker));
+  EXPECT_EQ(bubble, typename TypeParam::Descriptor());
+  EXPECT_TRUE(bubble.InitWithJson(std::string("kavrix://resource/{\"scene\":3}") + TypeParam::kMarker));
+  EXPECT_EQ(bubble.scene, 3);
+}
+
+REGISTER_TYPED_TEST_SUITE_P(WholeNameBubbleTest, KindCodeStaysZeroAndNoStyleIsRead,
+                            NothingIsLoggedBesideTheRequest,
+                            NameWithoutAReadableObjectGivesANewDescriptorAsConstructed,
+                            ModeZeroAloneSetsTheFlagAndAnAbsentOrMistypedOneInvertsIt,
+                            ForceCountsOnlyWhenOneAndUnderItsKeyWithTheUnderscore,
+                            TypeAndDirectionAreNarrowedTo16Bits, BracesInsideTextsBelongToTheText,
+                            NameWithoutThePrefixIsReadAsWell, TextAroundTheObjectIsPassedOver,
+                            InitWithJsonTellsWhetherItFoundAnObject);
+
+}  // namespace kavrix::test
+
+#endif  // KAVRIX_TESTS_SUPPORT_WHOLE_NAME_TEST_H_
