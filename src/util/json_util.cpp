@@ -5,6 +5,8 @@
 
 #include <memory>
 
+#include "util/json_nesting.h"
+
 // Some JsonCpp versions mark the legacy reader deprecated. Its accept set is the contract, so it stays.
 #if defined(__GNUC__)
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
@@ -13,6 +15,8 @@
 namespace kavrix::JsonUtil {
 
 bool ParseObject(std::string_view text, Json::Value& root) {
+  // A text no longer than the limit cannot nest deeper: that many brackets leave no room for a value inside.
+  if (text.size() > kDeepestValue && IsNestedDeeperThan(text, kDeepestValue)) return false;
   try {
     Json::Reader reader;
     return reader.parse(text.data(), text.data() + text.size(), root, false) && root.isObject();

@@ -12,9 +12,14 @@
 // The one place that calls JsonCpp. None of the readers throws but for failed allocations.
 namespace kavrix::JsonUtil {
 
+// The deepest value that ParseObject takes; the root is at depth 1, a value inside n arrays and objects at n
+// + 1. Newer versions of JsonCpp stop there, older ones go to 1000, for which a thread with a small stack has
+// no room.
+inline constexpr std::size_t kDeepestValue = 256;
+
 // Parses `text` with the accept set of JsonCpp's legacy reader: comments pass, and so does text after the
 // root. True when the root is an object, which is then in `root`; on false `root` holds nothing to read. A
-// text that the reader refuses by throwing (nested too deep) does not parse.
+// text with a value deeper than kDeepestValue does not parse.
 bool ParseObject(std::string_view text, Json::Value& root);
 
 // Parses `text` strictly: no comments, nothing after the root, no key twice. On false `error` says where and

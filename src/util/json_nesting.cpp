@@ -1,0 +1,97 @@
+#include "util/json_nesting.h"
+
+#include <algorithm>
+#include <string>
+
+namespace kavrix::JsonUtil {
+namespace {
+
+// "[" and "{" differ in one bit.
+bool IsOpening(char c) { return (c | 0x20) == '{'; }
+
+// Walks over the tokens as the reader does and keeps the brackets around the current place. Where the reader
+// refuses a text, it goes no deeper: what is made of the rest does not matter.
+class NestingScanner {
+ public:
+  explicit NestingScanner(std::string_view text) : text_(text) {}
+
+  bool ComesDeeperThan(std::size_t limit) {
+    while (at_ < text_.size()) {
+      const char c = text_[at_++];
+      if (c == ' ' || c == '\t' || c == '\n' || c == '\r') continue;
+      if (c == '/' && SkipComment()) {
+        comment_seen_ = true;
+        continue;
+      }
+      if (c == '"') SkipText();
+      if (c == '}' || c == ']') {
+        Close(c == '}' ? '{' : '[');
+      } else if (IsSeparator(c)) {
+        behind_value_ = false;
+      } else {
+        if (open_.size() == limit) return true;
+        BeginValue(c);
+      }
+      comment_seen_ = false;
+      if (open_.empty()) return false;  // the root has ended
+    }
+    return false;
+  }
+
+ private:
+  // What stands behind the first slash. False when it is no comment; two bytes are taken then, as the reader
+  // does.
+  bool SkipComment() {
+    if (at_ == text_.size()) return false;
+    const char kind = text_[at_++];
+    if (kind == '/') {
+      at_ = std::min(text_.find_first_of("\n\r", at_), text_.size());
+    } else if (kind == '*') {
+      const std::size_t end = text_.find("*/", at_);
+      at_ = end == std::string_view::npos ? text_.size() : end + 2;
+    }
+    return kind == '/' || kind == '*';
+  }
+
+  void SkipText() {
+    while (at_ < text_.size() && text_[at_] != '"') at_ += text_[at_] == '\\' ? 2 : 1;
+    ++at_;
+  }
+
+  void Close(char opening) {
+    const bool in_object = !open_.empty() && open_.back() == '{';
+    if (!open_.empty() && open_.back() == opening) {
+      open_.pop_back();
+      behind_value_ = true;
+    } else if (in_object && comment_seen_) {
+      behind_value_ = false;  // a separator: see below
+    }
+  }
+
+  // In an object, the reader takes whatever follows a value and a comment for the separator, but for a "}".
+  bool IsSeparator(char c) const {
+    const bool anything_goes = comment_seen_ && behind_value_ && !open_.empty() && open_.back() == '{';
+    return c == ',' || c == ':' || anything_goes;
+  }
+
+  void BeginValue(char c) {
+    if (IsOpening(c)) open_.push_back(c);
+    behind_value_ = !IsOpening(c);
+  }
+
+  const std::string_view text_;
+  std::size_t at_ = 0;
+  std::string open_;           // the brackets around the current place
+  bool behind_value_ = false;  // what stands here follows a value (or a key)
+  bool comment_seen_ = false;  // with nothing but comments between
+};
+
+}  // namespace
+
+bool IsNestedDeeperThan(std::string_view text, std::size_t limit) {
+  const auto opening = std::count_if(text.begin(), text.end(), IsOpening);
+  if (static_cast<std::size_t>(opening) < limit) return false;  // most texts are done here
+  return NestingScanner(text).ComesDeeperThan(limit);
+}
+
+}  // namespace kavrix::JsonUtil
