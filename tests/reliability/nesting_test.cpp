@@ -1,0 +1,174 @@
+// Payloads nested to the limit and beyond it: the same on every JsonCpp, on a small stack, and no bracket
+// counted that the reader does not take for one.
+
+#include <algorithm>
+#include <iostream>
+
+#include "map_resource/bubble_kinds.h"
+#include "tests/support/decode_test.h"
+#include "tests/support/thread_stack.h"
+#include "util/json_util.h"
+
+namespace kavrix::test {
+namespace {
+
+constexpr std::size_t kLimit = JsonUtil::kDeepestValue;
+
+std::string Repeated(const std::string& text, std::size_t times) {
+  std::string repeated;
+  for (std::size_t i = 0; i < times; ++i) repeated += text;
+  return repeated;
+}
+
+// An object with `innermost` at depth `depth`, the arrays and objects between taken in turn from `openings`,
+// such as
+// {"{\"k\":", "["}.
+std::string Nested(const std::vector<std::string>& openings, const std::string& innermost,
+                   std::size_t depth) {
+  std::string text = R"({"content":"read","nest":)";
+  std::string closings;
+  for (std::size_t i = 0; i + 2 < depth; ++i) {
+    const std::string& opening = openings[i % openings.size()];
+    text += opening;
+    closings.insert(0, opening[0] == '{' ? "}" : "]");
+  }
+  return text + innermost + closings + "}";
+}
+
+const std::vector<std::vector<std::string>> kShapes = {
+    {"["}, {R"({"k":)"}, {R"({"k":)", "["}, {"[", R"({"k":)"}, {"[0,"}, {R"({"a":0,"k":)"}};
+
+const std::vector<std::string> kInnermost = {"1", "null", R"("t")", "[]", "{}", "{ /* } */ }"};
+
+bool Parses(const std::string& text) {
+  Json::Value root;
+  return JsonUtil::ParseObject(text, root);
+}
+
+TEST(NestingTest, ValuesAtTheLimitParseAndOneDeeperDoNot) {
+  for (const auto& shape : kShapes) {
+    for (const std::string& innermost : kInnermost) {
+      EXPECT_TRUE(Parses(Nested(shape, innermost, kLimit - 1))) << shape[0] << innermost;
+      EXPECT_TRUE(Parses(Nested(shape, innermost, kLimit))) << shape[0] << innermost;
+      EXPECT_FALSE(Parses(Nested(shape, innermost, kLimit + 1))) << shape[0] << innermost;
+      EXPECT_FALSE(Parses(Nested(shape, innermost, 4 * kLimit))) << shape[0] << innermost;
+    }
+  }
+}
+
+TEST(NestingTest, AnEmptyArrayIsOneValueAndAScalarInItOneDeeper) {
+  EXPECT_TRUE(Parses(R"({"k":)" + Repeated("[", kLimit - 1) + Repeated("]", kLimit - 1) + "}"));
+  EXPECT_FALSE(Parses(R"({"k":)" + Repeated("[", kLimit - 1) + "1" + Repeated("]", kLimit - 1) + "}"));
+  EXPECT_TRUE(Parses(R"({"k":)" + Repeated("[", kLimit - 2) + "1" + Repeated("]", kLimit - 2) + "}"));
+}
+
+TEST(NestingTest, BracketsThatOpenNothingDoNotCount) {
+  const std::string brackets = Repeated("[{", 2 * kLimit);
+  EXPECT_TRUE(Parses(R"({"k":")" + brackets + R"("})"));
+  EXPECT_TRUE(Parses(R"({")" + brackets + R"(":1})"));
+  EXPECT_TRUE(Parses(R"({"k":"\")" + brackets + R"(\\"})"));
+  EXPECT_TRUE(Parses(R"({"k":/*)" + brackets + R"(*/1})"));
+  EXPECT_TRUE(Parses("{\"k\"://" + brackets + "\n1}"));
+  EXPECT_TRUE(Parses("{\"k\"://" + brackets + "\r1}"));
+  EXPECT_TRUE(Parses("/*/" + brackets + "*/{}"));
+  EXPECT_TRUE(Parses("//" + brackets + "\n{}"));
+  EXPECT_TRUE(Parses(R"({"k":[)" + Repeated("[],{},", 2 * kLimit) + "0]}"));
+}
+
+TEST(NestingTest, WhatStandsBehindTheRootDoesNotCount) {
+  EXPECT_TRUE(Parses("{}" + Repeated("[{", 2 * kLimit)));
+  EXPECT_TRUE(Parses("{} // " + Repeated("[{", 2 * kLimit)));
+  EXPECT_TRUE(Parses("{\"k\":[1]} \"" + Repeated("[{", 2 * kLimit)));
+}
+
+TEST(NestingTest, TextsThatAreNeverClosedDoNotParse) {
+  for (const std::string opening : {"[", "{", R"({"k":)", "[{\"k\":", "/*[", "\"["}) {
+    EXPECT_FALSE(Parses(Repeated(opening, 4 * kLimit)));
+    EXPECT_FALSE(Parses(R"({"k":)" + Repeated(opening, 4 * kLimit)));
+  }
+}
+
+// The kinds with a JSON payload, and what stands behind it in their names.
+std::vector<std::string> TailsOfJsonKinds() {
+  std::vector<std::string> tails;
+  for (std::size_t i = 0; i < kBubbleMarkers.size(); ++i) {
+    const std::string grammar = InfoOf(static_cast<BubbleKind>(i)).grammar;
+    if (grammar.find("JSON object") == std::string::npos) continue;
+    const bool has_direction = grammar.find("direction") != std::string::npos;
+    tails.push_back((has_direction ? "@1" : "") + std::string(kBubbleMarkers[i]));
+  }
+  return tails;
+}
+
+class DeepNameTest : public DecodeTest {
+ protected:
+  // The records of the last decode without the payload that some of them hold.
+  std::vector<SeenRecord> RecordsWithout(const std::string& payload) const {
+    std::vector<SeenRecord> without = records();
+    for (SeenRecord& record : without) {
+      const std::size_t at = record.message.find(payload);
+      if (at != std::string::npos) record.message.erase(at, payload.size());
+    }
+    return without;
+  }
+};
+
+TEST_F(DeepNameTest, EveryJsonKindTakesATooDeepPayloadForABrokenOne) {
+  const std::string broken = R"({"content":"read",})";
+  const std::string deep = Nested({"["}, "1", kLimit + 1);
+  ASSERT_EQ(TailsOfJsonKinds().size(), 16U);
+  for (const std::string& tail : TailsOfJsonKinds()) {
+    Decode(broken + tail);
+    const auto expected = out_;
+    const auto expected_records = RecordsWithout(broken);
+    Decode(deep + tail);
+    EXPECT_EQ(*out_, *expected) << tail;
+    EXPECT_EQ(RecordsWithout(deep), expected_records) << tail;
+  }
+}
+
+TEST_F(DeepNameTest, EveryJsonKindReadsAPayloadAtTheLimit) {
+  const std::string flat = R"({"content":"read","nest":0})";
+  for (const std::string& tail : TailsOfJsonKinds()) {
+    Decode(flat + tail);
+    const auto expected = out_;
+    Decode(Nested({R"({"k":)", "["}, "1", kLimit) + tail);
+    EXPECT_EQ(*out_, *expected) << tail;
+  }
+}
+
+TEST_F(DeepNameTest, MarkerNamesHaveTheSameLimit) {
+  const std::string prefix = MapResourceManager::kavrix_resource_prefix;
+  transform_.GetMarkerDrawDescriptor(prefix + Nested({"["}, "1", kLimit + 1) + ".marker", out_);
+  EXPECT_EQ(out_, nullptr);
+  transform_.GetMarkerDrawDescriptor(prefix + Nested({"["}, "1", kLimit) + ".marker", out_);
+  EXPECT_NE(out_, nullptr);
+}
+
+// The sanitizers' frames are larger than those that a client runs with.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr std::size_t kStackSize = 2 << 20;
+#else
+constexpr std::size_t kStackSize = 256 << 10;
+#endif
+
+TEST_F(DeepNameTest, TheDeepestNamesDecodeOnAThreadWithASmallStack) {
+  std::size_t most = 0;
+  for (const auto& shape : kShapes) {
+    for (const std::string& tail : TailsOfJsonKinds()) {
+      const std::string flat = R"({"content":"read","nest":0})" + tail;
+      Decode(flat);
+      const auto expected = out_;
+      for (const std::size_t depth : {kLimit, kLimit + 1, 100 * kLimit}) {
+        const std::string payload = Nested(shape, "1", depth);
+        most = std::max(most, StackUsedOnThread(kStackSize, [&] { Decode(payload + tail); }));
+        EXPECT_TRUE(depth != kLimit || *out_ == *expected) << tail;
+      }
+    }
+  }
+  RecordProperty("stack_bytes", std::to_string(most));
+  std::cout << "the deepest names used " << most << " bytes of stack\n";
+}
+
+}  // namespace
+}  // namespace kavrix::test
