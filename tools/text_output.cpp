@@ -11,12 +11,6 @@
 namespace kavrix::tools {
 namespace {
 
-// C0, DEL, C1, and the line and direction controls that would let a text rearrange the terminal.
-bool IsControl(char32_t c) {
-  return c < 0x20 || (c >= 0x7F && c < 0xA0) || c == 0x200E || c == 0x200F || (c >= 0x2028 && c <= 0x202E) ||
-         (c >= 0x2066 && c <= 0x2069);
-}
-
 std::string Escape(char32_t c) {
   if (c == '\n') return "\\n";
   if (c == '\t') return "\\t";

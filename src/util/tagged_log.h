@@ -11,7 +11,8 @@
 #include <string>
 
 // Log records with a tag, filtered by level and tag before anything of the message is evaluated. A sink
-// receives the finished records; util/tagged_log_plog.h makes one of any plog appender or logger.
+// receives the finished records; util/tagged_log_plog.h makes one of any plog appender or logger, util/log_line.h
+// one of any stream.
 namespace kavrix::logging {
 
 enum class LogLevel {

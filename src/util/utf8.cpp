@@ -44,6 +44,11 @@ Utf8Piece NextUtf8(std::string_view text) {
   return {lead.length, code_point, true};
 }
 
+bool IsControl(char32_t c) {
+  return c < 0x20 || (c >= 0x7F && c < 0xA0) || c == 0x200E || c == 0x200F || (c >= 0x2028 && c <= 0x202E) ||
+         (c >= 0x2066 && c <= 0x2069);
+}
+
 std::string ToValidUtf8(std::string_view text) {
   std::string valid;
   valid.reserve(text.size());

@@ -19,6 +19,9 @@ struct Utf8Piece {
 // valid.
 Utf8Piece NextUtf8(std::string_view text);
 
+// C0, DEL, C1, and the line and direction controls that would let a text rearrange what stands around it.
+bool IsControl(char32_t c);
+
 // A copy with every piece that is not valid replaced by U+FFFD.
 std::string ToValidUtf8(std::string_view text);
 

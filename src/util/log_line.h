@@ -1,0 +1,41 @@
+#ifndef KAVRIX_UTIL_LOG_LINE_H_
+#define KAVRIX_UTIL_LOG_LINE_H_
+
+#include <mutex>
+#include <ostream>
+#include <string>
+
+#include "util/tagged_log.h"
+
+namespace kavrix::logging {
+
+// A record as one line of text, the newline at its end left out:
+//
+//   failure KavrixMapLayerMgr_BubbleTraffic ParseTrafficBubbleResourceName traffic_bubble.cpp:57
+//   [Kavrix][main-map]...
+//
+// The message holds resource names, which anyone may have written; none can end the line, begin another or
+// move the cursor. What could is escaped, so that a line tells exactly what the record held:
+//
+//   \\                  a backslash
+//   \n \r \t            newline, carriage return, tab
+//   \u001b \u0085 ...   any other control character, line separators, and what turns the direction of writing
+//   \xff ...            a byte that is not UTF-8; in the four fields before the message also the blank, \x20
+std::string FormatLogLine(const LogRecord& record);
+
+// A sink that writes the lines to a stream, each in one piece under a lock of its own. The stream must
+// outlive it; set std::unitbuf on it to have every line flushed.
+class StreamSink : public LogSink {
+ public:
+  explicit StreamSink(std::ostream& stream) : stream_(stream) {}
+
+  void Write(const LogRecord& record) override;
+
+ private:
+  std::mutex mutex_;
+  std::ostream& stream_;  // guarded by mutex_
+};
+
+}  // namespace kavrix::logging
+
+#endif  // KAVRIX_UTIL_LOG_LINE_H_
