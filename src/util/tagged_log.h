@@ -59,7 +59,8 @@ class Logger {
   static bool TestLogLevelAndTag(std::uint32_t instance_id, LogLevel level, const std::string& tag) noexcept;
 };
 
-// A record being written. Its destructor completes it and hands it to the instance's sink.
+// A record being written. Its destructor completes it and hands it to the instance's sink. A message that memory runs
+// out for arrives cut short, or not at all.
 class Record {
  public:
   // `tag` must outlive the record.
