@@ -55,22 +55,17 @@ const Json::Value* Find(const Json::Value& object, std::string_view key) {
   return object.find(key.data(), key.data() + key.size());
 }
 
-namespace {
-
-// isInt() and its like are true for reals with an integral value; only the stored type tells them apart.
-bool IsStoredAsInteger(const Json::Value& value) {
-  return value.type() == Json::intValue || value.type() == Json::uintValue;
-}
-
-}  // namespace
-
 std::optional<int> AsInt(const Json::Value& value) {
-  if (!IsStoredAsInteger(value) || !value.isInt()) return std::nullopt;
-  return value.asInt();
+  const std::optional<std::int64_t> number = AsInteger(value);
+  if (!number || *number != static_cast<int>(*number)) return std::nullopt;
+  return static_cast<int>(*number);
 }
 
+// isInt64() and its like are true for reals with an integral value; only the stored type tells them apart.
 std::optional<std::int64_t> AsInteger(const Json::Value& value) {
-  if (!IsStoredAsInteger(value) || !value.isInt64()) return std::nullopt;
+  const Json::ValueType type = value.type();
+  const bool is_integer = type == Json::intValue || (type == Json::uintValue && value.isInt64());
+  if (!is_integer) return std::nullopt;
   return value.asInt64();
 }
 
@@ -82,9 +77,9 @@ std::optional<double> AsDouble(const Json::Value& value) {
 std::optional<std::string_view> AsText(const Json::Value& value) {
   const char* begin = nullptr;
   const char* end = nullptr;
+  if (value.getString(&begin, &end)) return std::string_view(begin, static_cast<std::size_t>(end - begin));
   if (!value.isString()) return std::nullopt;
-  if (!value.getString(&begin, &end)) return std::string_view();
-  return std::string_view(begin, static_cast<std::size_t>(end - begin));
+  return std::string_view();  // a text that holds no bytes at all, not even an ending NUL
 }
 
 std::string ToText(const Json::Value& value) {

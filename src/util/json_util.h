@@ -30,7 +30,11 @@ bool ParseStrictly(const std::string& text, Json::Value& root, std::string& erro
 const Json::Value* Find(const Json::Value& object, std::string_view key);
 
 struct Member {
-  std::string_view key;
+  bool Has(std::string_view name) const { return std::string_view(key, key_length) == name; }
+
+  // Plain members, so that an array of them costs nothing to make.
+  const char* key;
+  std::size_t key_length;
   const Json::Value* value;
 };
 
@@ -38,14 +42,14 @@ struct Member {
 // there are more. A value that is no object has none.
 template <std::size_t N>
 std::optional<std::size_t> ListMembers(const Json::Value& object, std::array<Member, N>& members) {
-  std::size_t count = 0;
-  if (!object.isObject()) return count;
-  const Json::Value::const_iterator end = object.end();
-  for (Json::Value::const_iterator it = object.begin(); it != end; ++it, ++count) {
-    if (count == N) return std::nullopt;
+  if (!object.isObject()) return 0;
+  const std::size_t count = object.size();
+  if (count > N) return std::nullopt;
+  Json::Value::const_iterator it = object.begin();
+  for (std::size_t i = 0; i < count; ++i, ++it) {
     const char* key_end = nullptr;
     const char* const key = it.memberName(&key_end);
-    members[count] = {std::string_view(key, static_cast<std::size_t>(key_end - key)), &*it};
+    members[i] = {key, static_cast<std::size_t>(key_end - key), &*it};
   }
   return count;
 }

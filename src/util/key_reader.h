@@ -46,6 +46,7 @@ class JsonKeyReader {
   void Records(std::string_view key, std::vector<Item>& items, ItemKeys item_keys) {
     const Json::Value* const array = FindArray(key);
     if (array == nullptr) return;
+    items.reserve(items.size() + array->size());
     for (const Json::Value& element : *array) {
       Item item;
       JsonKeyReader keys(element);
@@ -74,7 +75,7 @@ class JsonKeyReader {
   const Json::Value* Find(std::string_view key) const {
     if (!member_count_) return JsonUtil::Find(object_, key);
     for (std::size_t i = 0; i < *member_count_; ++i) {
-      if (members_[i].key == key) return members_[i].value;
+      if (members_[i].Has(key)) return members_[i].value;
     }
     return nullptr;
   }
