@@ -1,7 +1,5 @@
 #include "tools/streams.h"
 
-#include <unistd.h>
-
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -31,7 +29,7 @@ std::string ReadFile(const std::string& path) {
 bool NameInput::Fill() {
   ssize_t size = 0;
   do {
-    size = ::read(STDIN_FILENO, buffer_.data(), buffer_.size());
+    size = ::read(descriptor_, buffer_.data(), buffer_.size());
   } while (size < 0 && errno == EINTR);
   if (size < 0) Fail("cannot read standard input", errno);
   unread_ = std::string_view(buffer_.data(), static_cast<std::size_t>(size));

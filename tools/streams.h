@@ -1,6 +1,8 @@
 #ifndef KAVRIX_TOOLS_STREAMS_H_
 #define KAVRIX_TOOLS_STREAMS_H_
 
+#include <unistd.h>
+
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -17,12 +19,13 @@ class StreamError : public std::runtime_error {
 // The whole file. Throws StreamError.
 std::string ReadFile(const std::string& path);
 
-// Standard input as a sequence of names, each ended by the delimiter or by the end of the input. A name that
-// ends in newline loses a '\r' before it. Memory does not grow with the length of the input, only with that
-// of a name.
+// A stream, standard input by default, as a sequence of names, each ended by the delimiter or by the end of
+// the input. A name that ends in newline loses a '\r' before it. Memory does not grow with the length of the
+// input, only with that of a name.
 class NameInput {
  public:
-  explicit NameInput(char delimiter) : delimiter_(delimiter), buffer_(1 << 16) {}
+  explicit NameInput(char delimiter, int descriptor = STDIN_FILENO, std::size_t buffer_size = 1 << 16)
+      : delimiter_(delimiter), descriptor_(descriptor), buffer_(buffer_size) {}
 
   // False at the end of the input. Throws StreamError.
   bool Next(std::string& name);
@@ -31,6 +34,7 @@ class NameInput {
   bool Fill();
 
   char delimiter_;
+  int descriptor_;
   std::vector<char> buffer_;
   std::string_view unread_;
 };

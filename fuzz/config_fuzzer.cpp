@@ -1,0 +1,33 @@
+// Configuration files: read as a whole, or refused with a ConfigError and nothing else.
+
+#include "config/bubble_layer_config_file.h"
+#include "fuzz/fuzzing.h"
+
+namespace kavrix::fuzz {
+namespace {
+
+// All that a file gave, as text; what it was refused for when it was.
+std::string Load(std::string_view text) {
+  const auto heap_text = std::make_unique<const std::string>(text);
+  try {
+    const BubbleLayerConfigFile file = ParseBubbleLayerConfig(*heap_text);
+    std::string all = file.context_name + ' ' + std::to_string(file.multi_light_type);
+    ForEachStyleRecord(file.bubble_layer, [&](const char*, const auto& record) {
+      all += '\n' + record.name;
+      for (const std::uint32_t word : record.values) all += ' ' + std::to_string(word);
+    });
+    return all;
+  } catch (const ConfigError& error) {
+    return std::string("refused: ") + error.what();
+  }
+}
+
+}  // namespace
+}  // namespace kavrix::fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace kavrix::fuzz;
+  const std::string_view text = AsText(data, size);
+  Require(Load(text) == Load(text), "a file read twice gives the same");
+  return 0;
+}

@@ -1,0 +1,87 @@
+#ifndef KAVRIX_FUZZ_DECODING_H_
+#define KAVRIX_FUZZ_DECODING_H_
+
+#include <stdexcept>
+
+#include "fuzz/fuzzing.h"
+#include "map_resource/bubble_markers.h"
+#include "map_resource/map_resource_transform.h"
+#include "tests/support/record_collector.h"
+
+namespace kavrix::fuzz {
+
+enum class EntryPoint { kBubble, kMarker };
+
+// All that came of one name.
+struct Outcome {
+  std::shared_ptr<BubbleDrawDescriptor> out;
+  std::vector<test::SeenRecord> records;
+  std::string exception;
+};
+
+inline std::shared_ptr<KavrixContext> MakeContext() {
+  BubbleLayerConfigContainer config;
+  std::uint32_t word = 1;
+  ForEachStyleRecord(config, [&](const char* name, auto& record) {
+    record.name = name;
+    for (std::size_t i = 1; i <= record.kValueCount; ++i) record.SetWord(i, word++);
+  });
+  auto context = std::make_shared<KavrixContext>("fuzz");
+  context->SetBubbleLayerConfig(config);
+  context->multi_light_type = 3;
+  return context;
+}
+
+// Decodes with every record on. `name` is the one allocation that holds its bytes.
+inline Outcome Decode(const std::string& name, EntryPoint entry_point,
+                      const std::shared_ptr<BubbleDrawDescriptor>& before) {
+  static test::RecordCollector collector;
+  static MapResourceTransform transform(MakeContext());
+  collector.Clear();
+  Outcome outcome{before, {}, ""};
+  try {
+    if (entry_point == EntryPoint::kBubble) {
+      transform.GetBubbleDrawDescriptor(name, outcome.out);
+    } else {
+      transform.GetMarkerDrawDescriptor(name, outcome.out);
+    }
+  } catch (
+      const std::out_of_range& exception) {  // a name shorter than the prefix; nothing else may be thrown
+    outcome.exception = exception.what();
+  }
+  outcome.records = collector.records();
+  return outcome;
+}
+
+// Recognises the kind as plainly as can be.
+inline std::optional<BubbleKind> FindBubbleKindPlainly(std::string_view name) {
+  for (std::size_t i = 0; i < kBubbleMarkers.size(); ++i) {
+    if (name.find(kBubbleMarkers[i]) != std::string_view::npos) return static_cast<BubbleKind>(i);
+  }
+  return std::nullopt;
+}
+
+// What holds for every name.
+inline void CheckName(std::string_view text, EntryPoint entry_point) {
+  const auto name =
+      std::make_unique<const std::string>(text);  // a short one lies on the heap with its object
+  const auto before = std::make_shared<BubbleDrawDescriptor>();
+  const Outcome first = Decode(*name, entry_point, before);
+  const Outcome second = Decode(*name, entry_point, before);
+  Require(first.records == second.records, "a name decoded twice gives the same records");
+  Require(first.exception == second.exception, "a name decoded twice throws the same");
+  Require(*first.out == *second.out, "a name decoded twice gives the same descriptor");
+  Require(*before == BubbleDrawDescriptor(), "the descriptor that was in `out` is never written to");
+  if (entry_point == EntryPoint::kMarker) return;
+
+  const std::optional<BubbleKind> kind = FindBubbleKind(ExactCopy(text).text());
+  Require(kind == FindBubbleKindPlainly(text), "the kind is that of the first marker in order that occurs");
+  if (!kind) {
+    Require(first.out == before, "a name without a marker leaves `out` alone");
+    Require(first.records.size() == 2 && first.records[1].level == 1, "a name without a marker is a failure");
+  }
+}
+
+}  // namespace kavrix::fuzz
+
+#endif  // KAVRIX_FUZZ_DECODING_H_

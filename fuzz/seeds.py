@@ -1,0 +1,72 @@
+#!/usr/bin/env python3
+"""Writes the first inputs of each fuzzer, made from the names of the golden files and the default configuration.
+
+usage: seeds.py ROOT OUTPUT < markers    ROOT of the repository; the markers one a line, as fuzz_dictionary prints them
+"""
+
+import json
+import pathlib
+import sys
+
+PREFIX = "kavrix://resource/"
+
+
+def golden_names(root):
+    for path in sorted((root / "tests/golden").glob("*.jsonl")):
+        for line in path.read_text(encoding="utf-8").splitlines():
+            yield json.loads(line)["resource_name"]
+
+
+def payload_inputs(names, markers):
+    """The payloads fuzzer wants the number of the marker as a byte, then what stands between prefix and marker."""
+    for name in names:
+        for number, marker in enumerate(markers):
+            if name.startswith(PREFIX) and name.endswith(marker):
+                yield bytes([number]) + name[len(PREFIX):-len(marker)].encode()
+
+
+def text_inputs(names):
+    """Payloads without their JSON, and the fields in them."""
+    for name in names:
+        payload = name.removeprefix(PREFIX)
+        yield payload.encode()
+        yield from (field.encode() for field in payload.replace("@", "_").split("_"))
+    yield from (b"2147483648", b" \t-9223372036854775809", b"+5", b"\xe0\x9f\xbf", b"\xed\xa0\x80", b"\xf4\x90\x80\x80")
+
+
+def config_inputs(root):
+    text = (root / "samples/default_config.json").read_text(encoding="utf-8")
+    config = json.loads(text)
+    yield text.encode()
+    yield json.dumps({**config, "bubble_layer": {}}).encode()
+    for name, record in config["bubble_layer"].items():
+        yield json.dumps({"bubble_layer": {name: record}}, ensure_ascii=False).encode()
+
+
+def stream_inputs(names):
+    for i in range(0, len(names), 8):
+        some = [name.encode() for name in names[i:i + 8]]
+        yield b"\x02" + b"\n".join(some)
+        yield b"\x20" + b"\r\n".join(some) + b"\n"
+        yield b"\x81" + b"\0".join(some)
+
+
+def main():
+    root, output = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
+    markers = sys.stdin.read().split()
+    names = list(golden_names(root))
+    inputs = {
+        "names": [name.encode() for name in names],
+        "payloads": payload_inputs(names, markers),
+        "texts": text_inputs(names),
+        "config": config_inputs(root),
+        "name_input": stream_inputs(names),
+    }
+    for fuzzer, seeds in inputs.items():
+        folder = output / fuzzer
+        folder.mkdir(parents=True, exist_ok=True)
+        for number, seed in enumerate(sorted(set(seeds))):
+            (folder / f"seed-{number:04}").write_bytes(seed)
+
+
+main()
