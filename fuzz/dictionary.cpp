@@ -1,7 +1,6 @@
 // Prints the vocabulary as a libFuzzer dictionary; with "markers" the markers alone, one a line, in their
 // order.
 
-#include <cstdio>
 #include <iostream>
 #include <string_view>
 
@@ -10,11 +9,11 @@
 namespace {
 
 void PrintEntry(const std::string& word) {
+  constexpr char kDigits[] = "0123456789abcdef";
   std::cout << '"';
   for (const char c : word) {
-    char escaped[5];
-    std::snprintf(escaped, sizeof escaped, "\\x%02x", static_cast<unsigned>(static_cast<unsigned char>(c)));
-    std::cout << escaped;
+    const auto byte = static_cast<unsigned char>(c);
+    std::cout << "\\x" << kDigits[byte / 16] << kDigits[byte % 16];
   }
   std::cout << "\"\n";
 }

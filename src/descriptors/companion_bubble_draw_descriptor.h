@@ -26,8 +26,9 @@ class CompanionBubbleDrawDescriptor : public BubbleDrawDescriptor {
   std::string label;
   std::string distance;  // distance as a text
   std::string fee;
-  std::string light;       // traffic lights on the way, as a text
-  bool better = false;     // the companion route is the better one
+  std::string light;    // traffic lights on the way, as a text
+  bool better = false;  // the companion route is the better one
+  // cppcheck-suppress duplInheritedMember
   std::int32_t scene = 0;  // the companion's own scene; the base has another
 };
 

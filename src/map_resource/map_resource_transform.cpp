@@ -9,9 +9,8 @@ namespace kavrix {
 
 using logging::LogLevel;
 
-MapResourceTransform::MapResourceTransform(std::shared_ptr<KavrixContext> context) {
-  context_ = std::move(context);
-}
+MapResourceTransform::MapResourceTransform(std::shared_ptr<KavrixContext> context)
+    : context_(std::move(context)) {}
 
 void MapResourceTransform::GetBubbleDrawDescriptor(const std::string& resource_name,
                                                    std::shared_ptr<BubbleDrawDescriptor>& out) {
