@@ -58,6 +58,7 @@ def main():
     inputs = {
         "names": [name.encode() for name in names],
         "payloads": payload_inputs(names, markers),
+        "round_trip": payload_inputs(names, markers),
         "texts": text_inputs(names),
         "config": config_inputs(root),
         "name_input": stream_inputs(names),

@@ -17,8 +17,8 @@ std::string LastKey(const std::string& path) {
 std::vector<std::string> AllKeys() {
   KeyLister lister;
   for (std::size_t i = 0; i < kBubbleMarkers.size(); ++i)
-    InfoOf(static_cast<BubbleKind>(i)).list_keys(lister);
-  kMarkerNameInfo.list_keys(lister);
+    InfoOf(static_cast<BubbleKind>(i)).codec.list_keys(lister);
+  kMarkerNameInfo.codec.list_keys(lister);
   std::set<std::string> keys = {"context_name", "multi_light_type", "bubble_layer", "name", "values"};
   for (const KeyInfo& info : lister.keys()) keys.insert(LastKey(info.key));
   BubbleLayerConfigContainer config;

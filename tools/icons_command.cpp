@@ -25,6 +25,7 @@ struct Icon {
 
 std::vector<Icon> AllIcons() {
   std::vector<Icon> icons;
+  icons.reserve(R::DayNightResourceMap.size());
   for (const auto& [day_id, night_id] : R::DayNightResourceMap) {
     icons.push_back({day_id, night_id, R::ResourceID2DescriptionMap.at(day_id),
                      R::ResourceID2DescriptionMap.at(night_id)});
@@ -93,8 +94,7 @@ int Run(const IconsOptions& options) {
     }
     if (!found) {
       status = 1;
-      std::fprintf(stderr, "kavrix-resource: no icon has the id or the text \"%s\"\n",
-                   Printable(query).c_str());
+      std::cerr << "kavrix-resource: no icon has the id or the text \"" << Printable(query) << "\"\n";
     }
   }
   output.Flush();
