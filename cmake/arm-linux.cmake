@@ -1,0 +1,16 @@
+# Cross build by Debian's compilers: -DKAVRIX_ARM_TRIPLET=aarch64-linux-gnu or arm-linux-gnueabihf. Packages are those
+# of the other architecture, installed beside this machine's own.
+set(CMAKE_SYSTEM_NAME Linux)
+list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES KAVRIX_ARM_TRIPLET)
+if(KAVRIX_ARM_TRIPLET STREQUAL "aarch64-linux-gnu")
+  set(CMAKE_SYSTEM_PROCESSOR aarch64)
+  set(qemu qemu-aarch64-static)
+else()
+  set(CMAKE_SYSTEM_PROCESSOR arm)
+  set(qemu qemu-arm-static)
+endif()
+set(CMAKE_C_COMPILER ${KAVRIX_ARM_TRIPLET}-gcc)
+set(CMAKE_CXX_COMPILER ${KAVRIX_ARM_TRIPLET}-g++)
+set(CMAKE_LIBRARY_ARCHITECTURE ${KAVRIX_ARM_TRIPLET})
+set(CMAKE_CROSSCOMPILING_EMULATOR ${qemu})
+set(ENV{PKG_CONFIG_LIBDIR} /usr/lib/${KAVRIX_ARM_TRIPLET}/pkgconfig)
