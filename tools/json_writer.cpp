@@ -16,8 +16,8 @@ void JsonWriter::Real(float value) {
 }
 
 void JsonWriter::Text(std::string_view text) {
-  const std::string valid = ToValidUtf8(text);
-  writer_.String(valid.data(), static_cast<rapidjson::SizeType>(valid.size()));
+  if (ValidUtf8Length(text) < text.size()) return Text(ToValidUtf8(text));
+  writer_.String(text.data(), static_cast<rapidjson::SizeType>(text.size()));
 }
 
 std::string JsonWriter::TakeLine() {

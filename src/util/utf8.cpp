@@ -1,5 +1,8 @@
 #include "util/utf8.h"
 
+#include <cstdint>
+#include <cstring>
+
 namespace kavrix {
 namespace {
 
@@ -21,6 +24,17 @@ LeadByte LeadByteOf(unsigned char byte) {
   if (byte > 0xF4) return {0, 0, 0};
   return {4, static_cast<unsigned char>(byte == 0xF0 ? 0x90 : 0x80),
           static_cast<unsigned char>(byte == 0xF4 ? 0x8F : 0xBF)};
+}
+
+std::size_t AsciiLength(std::string_view text) {
+  std::size_t length = 0;
+  for (; length + 8 <= text.size(); length += 8) {
+    std::uint64_t eight_bytes = 0;
+    std::memcpy(&eight_bytes, text.data() + length, 8);
+    if ((eight_bytes & 0x8080808080808080u) != 0) break;
+  }
+  while (length < text.size() && static_cast<unsigned char>(text[length]) < 0x80) ++length;
+  return length;
 }
 
 }  // namespace
@@ -49,15 +63,27 @@ bool IsControl(char32_t c) {
          (c >= 0x2066 && c <= 0x2069);
 }
 
+std::size_t ValidUtf8Length(std::string_view text) {
+  std::size_t length = 0;
+  for (;;) {
+    length += AsciiLength(text.substr(length));
+    const Utf8Piece piece = NextUtf8(text.substr(length));
+    if (!piece.is_valid || piece.length == 0) return length;
+    length += piece.length;
+  }
+}
+
 std::string ToValidUtf8(std::string_view text) {
   std::string valid;
   valid.reserve(text.size());
-  while (!text.empty()) {
-    const Utf8Piece piece = NextUtf8(text);
-    valid += piece.is_valid ? text.substr(0, piece.length) : std::string_view("\xEF\xBF\xBD");
-    text.remove_prefix(piece.length);
+  for (;;) {
+    const std::size_t length = ValidUtf8Length(text);
+    valid += text.substr(0, length);
+    text.remove_prefix(length);
+    if (text.empty()) return valid;
+    valid += "\xEF\xBF\xBD";
+    text.remove_prefix(NextUtf8(text).length);
   }
-  return valid;
 }
 
 }  // namespace kavrix

@@ -22,6 +22,9 @@ Utf8Piece NextUtf8(std::string_view text);
 // C0, DEL, C1, and the line and direction controls that would let a text rearrange what stands around it.
 bool IsControl(char32_t c);
 
+// How many bytes at the beginning are valid characters; the size of the text when all are.
+std::size_t ValidUtf8Length(std::string_view text);
+
 // A copy with every piece that is not valid replaced by U+FFFD.
 std::string ToValidUtf8(std::string_view text);
 
