@@ -1,57 +1,47 @@
 #include "tools/decode_command.h"
 
 #include <cstdlib>
-#include <iostream>
 #include <memory>
 #include <optional>
 #include <utility>
 
 #include "map_resource/map_resource_manager.h"
+#include "tools/bulk.h"
 #include "tools/context.h"
 #include "tools/decoding.h"
 #include "tools/format_option.h"
 #include "tools/json_output.h"
 #include "tools/kind_names.h"
-#include "tools/streams.h"
 #include "tools/text_output.h"
 
 namespace kavrix::tools {
 namespace {
 
 struct DecodeOptions {
-  std::vector<std::string> names;
+  BulkOptions bulk;
   std::string format;
   std::optional<std::string> config_path;
   std::optional<std::string> prefix;
   std::optional<std::string> context_name;
   bool marker = false;
-  bool null_delimited = false;
-  bool unbuffered = false;
   bool all_members = false;
   bool fields = false;
 };
 
-// {"kind": ..., "fields": ...}, as "encode" reads it; or a message, and false, for a name that has no such
-// form.
-bool WriteFields(const std::string& name, bool is_marker_name, std::size_t count, Output& output) {
+// {"kind": ..., "fields": ...}, as "encode" reads it. Throws for a name that has no such form.
+std::string FieldsLine(const std::string& name, bool is_marker_name) {
+  const std::optional<BubbleKind> kind = FindBubbleKind(name);
+  if (!is_marker_name && !kind) throw std::runtime_error("the name holds no marker");
+  const BubbleKindInfo& info = is_marker_name ? kMarkerNameInfo : InfoOf(*kind);
+  const std::string kind_name(is_marker_name ? MarkerNamesKind() : MarkerOf(*kind).substr(1));
+  std::optional<std::string> fields;
   try {
-    const std::optional<BubbleKind> kind = FindBubbleKind(name);
-    if (!is_marker_name && !kind) throw std::runtime_error("the name holds no marker");
-    const BubbleKindInfo& info = is_marker_name ? kMarkerNameInfo : InfoOf(*kind);
-    const std::string_view kind_name = is_marker_name ? MarkerNamesKind() : MarkerOf(*kind).substr(1);
-    const std::optional<std::string> fields = info.codec.read_fields(name);
-    if (!fields) throw std::runtime_error(std::string(kind_name) + ": the payload does not parse");
-    output.Write("{\"kind\":\"" + std::string(kind_name) + "\",\"fields\":" + *fields + "}\n");
-    return true;
-  } catch (const StreamError&) {
-    throw;
+    fields = info.codec.read_fields(name);
   } catch (const std::out_of_range&) {
-    std::cerr << "kavrix-resource: name " << count << ": the name is shorter than the prefix\n";
-    return false;
-  } catch (const std::exception& error) {
-    std::cerr << "kavrix-resource: name " << count << ": " << Printable(error.what()) << '\n';
-    return false;
+    throw std::runtime_error("the name is shorter than the prefix");
   }
+  if (!fields) throw std::runtime_error(kind_name + ": the payload does not parse");
+  return "{\"kind\":\"" + kind_name + "\",\"fields\":" + *fields + "}\n";
 }
 
 int Run(const DecodeOptions& options) {
@@ -64,28 +54,13 @@ int Run(const DecodeOptions& options) {
   const char* const no_colour = std::getenv("NO_COLOR");
   const bool colour = ToTerminal() && (no_colour == nullptr || *no_colour == '\0');
   const TextOptions text_options = {options.all_members, colour};
-  Output output(options.unbuffered || ToTerminal());
 
-  int status = 0;
-  std::size_t count = 0;
-  const auto decode = [&](std::string name) {
-    ++count;
-    if (options.fields) {
-      if (!WriteFields(name, options.marker, count, output)) status = 1;
-      return;
-    }
+  const auto decode = [&](std::string name) -> NameResult {
+    if (options.fields) return ResultOf([&] { return FieldsLine(name, options.marker); });
     const Decoded decoded = decoder.Decode(std::move(name));
-    if (decoded.failed) status = 1;
-    output.Write(as_text ? ToText(decoded, text_options) : ToJsonLine(decoded));
+    return {as_text ? ToText(decoded, text_options) : ToJsonLine(decoded), decoded.failed, ""};
   };
-
-  if (options.names.empty()) {
-    NameInput input(options.null_delimited ? '\0' : '\n');
-    for (std::string name; input.Next(name);) decode(std::move(name));
-  }
-  for (const std::string& name : options.names) decode(name);
-  output.Flush();
-  return status;
+  return WorkInBulk(options.bulk, decode) == 0 ? 0 : 1;
 }
 
 }  // namespace
@@ -94,15 +69,17 @@ void AddDecodeCommand(CLI::App& app, int& status) {
   const auto options = std::make_shared<DecodeOptions>();
   CLI::App* const command =
       app.add_subcommand("decode", "Decode resource names and show all that comes of them");
-  command->add_option("NAME", options->names, "Resource names; without any, one a line from standard input");
+  command->add_option("NAME", options->bulk.names,
+                      "Resource names; without any, one a line from standard input");
   AddFormatOption(*command, options->format, {"text", "json"});
   command->add_option("--config", options->config_path,
                       "Configuration file; without it, the built-in default");
   command->add_option("--prefix", options->prefix, "Prefix of the names instead of kavrix://resource/");
   command->add_option("--context-name", options->context_name, "Context name in the log records");
   command->add_flag("--marker", options->marker, "The names are marker names, not bubble names");
-  command->add_flag("--null", options->null_delimited, "Names on standard input end in NUL, not newline");
-  command->add_flag("--unbuffered", options->unbuffered, "Write each result as soon as it is there");
+  AddBulkOptions(*command, options->bulk);
+  command->add_flag("--null", options->bulk.null_delimited,
+                    "Names on standard input end in NUL, not newline");
   command->add_flag("--fields", options->fields, "Print what the names carry, in the form that encode reads");
   command->add_flag("--all", options->all_members, "In text, show members that hold their defaults too");
   command->footer(

@@ -1,5 +1,9 @@
 #include "tools/streams.h"
 
+#include <poll.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -26,7 +30,19 @@ std::string ReadFile(const std::string& path) {
   return text;
 }
 
+// False when interrupted. What is wrong with the input is for the read to tell.
+bool NameInput::AwaitInput() const {
+  constexpr int kMillisecondsToInterruption = 100;
+  pollfd input = {descriptor_, POLLIN, 0};
+  while (!interrupted_) {
+    const int ready = ::poll(&input, 1, kMillisecondsToInterruption);
+    if (ready > 0 || (ready < 0 && errno != EINTR)) return true;
+  }
+  return false;
+}
+
 bool NameInput::Fill() {
+  if (!AwaitInput()) return false;
   ssize_t size = 0;
   do {
     size = ::read(descriptor_, buffer_.data(), buffer_.size());
@@ -51,6 +67,14 @@ bool NameInput::Next(std::string& name) {
   }
   if (delimiter_ == '\n' && !name.empty() && name.back() == '\r') name.pop_back();
   return true;
+}
+
+std::optional<std::uint64_t> NameInput::BytesLeft() {
+  struct stat status = {};
+  if (::fstat(STDIN_FILENO, &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
+  const off_t read = ::lseek(STDIN_FILENO, 0, SEEK_CUR);
+  if (read < 0 || read > status.st_size) return std::nullopt;
+  return static_cast<std::uint64_t>(status.st_size - read);
 }
 
 void Output::Write(std::string_view text) {

@@ -3,6 +3,9 @@
 
 #include <unistd.h>
 
+#include <atomic>
+#include <cstdint>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -30,13 +33,24 @@ class NameInput {
   // False at the end of the input. Throws StreamError.
   bool Next(std::string& name);
 
+  // Whether the next name is there as a whole, so that Next need not wait for it.
+  bool HasNext() const { return unread_.find(delimiter_) != std::string_view::npos; }
+
+  // From another thread: makes a Next that waits for input return soon, as at the end of the input.
+  void Interrupt() { interrupted_ = true; }
+
+  // How many bytes are left when standard input is a file; none when nobody can know.
+  static std::optional<std::uint64_t> BytesLeft();
+
  private:
+  bool AwaitInput() const;
   bool Fill();
 
   char delimiter_;
   int descriptor_;
   std::vector<char> buffer_;
   std::string_view unread_;
+  std::atomic<bool> interrupted_{false};
 };
 
 // Standard output, buffered; what could not be written throws StreamError, at the latest in Flush.

@@ -1,0 +1,124 @@
+#include "tools/bulk.h"
+
+#include <unistd.h>
+
+#include <cstdint>
+#include <exception>
+#include <iostream>
+#include <optional>
+#include <utility>
+
+#include "tools/ordered_pipeline.h"
+#include "tools/progress.h"
+#include "tools/streams.h"
+#include "tools/text_output.h"
+
+namespace kavrix::tools {
+namespace {
+
+// The names given, else those of standard input.
+class NameSource {
+ public:
+  explicit NameSource(const BulkOptions& options)
+      : given_(options.names), input_(options.null_delimited ? '\0' : '\n') {}
+
+  // Adds up to `most` names, as many as are there without waiting but for the first. False at the end.
+  bool Take(std::size_t most, std::vector<std::string>& names) {
+    std::string name;
+    while (names.size() < most && (names.empty() || HasNext()) && Next(name))
+      names.push_back(std::move(name));
+    return !names.empty();
+  }
+
+  void Interrupt() { input_.Interrupt(); }
+
+  // All that there is to take; none when nobody can know.
+  std::optional<std::uint64_t> Bytes() const {
+    if (given_.empty()) return NameInput::BytesLeft();
+    std::uint64_t bytes = 0;
+    for (const std::string& name : given_) bytes += name.size() + 1;
+    return bytes;
+  }
+
+ private:
+  bool HasNext() const { return given_.empty() ? input_.HasNext() : given_taken_ < given_.size(); }
+  bool Next(std::string& name) {
+    if (given_.empty()) return input_.Next(name);
+    if (!HasNext()) return false;
+    name = given_[given_taken_++];
+    return true;
+  }
+
+  const std::vector<std::string>& given_;
+  std::size_t given_taken_ = 0;
+  NameInput input_;
+};
+
+struct Batch {
+  std::vector<std::string> names;
+  std::size_t bytes = 0;
+  std::size_t failed = 0;
+  std::string results;
+  std::vector<std::pair<std::size_t, std::string>> problems;  // with the place in the batch, from 1
+};
+
+// Enough to make the hand-over between threads cheap, few enough to keep the results of a batch in a cache.
+constexpr std::size_t kMostNames = 64;
+
+bool ShowsProgress(const BulkOptions& options) {
+  const bool types_names = options.names.empty() && isatty(STDIN_FILENO) != 0;
+  return isatty(STDERR_FILENO) != 0 && isatty(STDOUT_FILENO) == 0 && !types_names;
+}
+
+}  // namespace
+
+NameResult ResultOf(const std::function<std::string()>& work) {
+  try {
+    return {work(), false, ""};
+  } catch (const std::exception& error) {
+    return {"", true, error.what()};
+  }
+}
+
+void AddBulkOptions(CLI::App& command, BulkOptions& options) {
+  constexpr int kMostJobs = 256;
+  command.add_option("--jobs", options.jobs, "How many to work on at a time, on as many threads")
+      ->check(CLI::Range(1, kMostJobs));
+  command.add_flag("--unbuffered", options.unbuffered, "Write each result as soon as it is there");
+}
+
+std::size_t WorkInBulk(const BulkOptions& options, const std::function<NameResult(std::string name)>& work) {
+  NameSource source(options);
+  const bool unbuffered = options.unbuffered || isatty(STDOUT_FILENO) != 0;
+  Output output(unbuffered);
+  Progress progress(ShowsProgress(options), source.Bytes());
+  std::size_t done = 0;
+  std::size_t failed = 0;
+
+  const auto take = [&](Batch& batch) { return source.Take(unbuffered ? 1 : kMostNames, batch.names); };
+  const auto work_on = [&](Batch& batch) {
+    for (std::size_t i = 0; i < batch.names.size(); ++i) {
+      batch.bytes += batch.names[i].size() + 1;
+      const NameResult result = work(std::move(batch.names[i]));
+      if (!result.problem.empty()) batch.problems.emplace_back(i + 1, result.problem);
+      batch.results += result.text;
+      batch.failed += result.failed ? 1 : 0;
+    }
+  };
+  const auto put = [&](const Batch& batch) {
+    output.Write(batch.results);
+    for (const auto& [place, problem] : batch.problems) {
+      std::cerr << "kavrix-resource: " << options.what << ' ' << done + place << ": " << Printable(problem)
+                << '\n';
+    }
+    done += batch.names.size();
+    failed += batch.failed;
+    progress.Add(batch.names.size(), batch.failed, batch.bytes);
+  };
+  const auto stop = [&] { source.Interrupt(); };
+  OrderedPipeline<Batch>({take, work_on, put, stop}).Run(options.jobs);
+  output.Flush();
+  return failed;
+}
+
+}  // namespace kavrix::tools
