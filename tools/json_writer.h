@@ -13,7 +13,7 @@ namespace kavrix::tools {
 // JSON text, written as it comes. Texts may hold any bytes: what is not UTF-8 becomes U+FFFD.
 class JsonWriter {
  public:
-  JsonWriter() : writer_(buffer_) {}
+  JsonWriter() : buffer_(nullptr, kUsualLineSize), writer_(buffer_) {}
 
   void BeginObject() { writer_.StartObject(); }
   void EndObject() { writer_.EndObject(); }
@@ -30,6 +30,8 @@ class JsonWriter {
   std::string TakeLine();
 
  private:
+  static constexpr std::size_t kUsualLineSize = 2048;  // what a line need not grow to by many small steps
+
   rapidjson::StringBuffer buffer_;
   rapidjson::Writer<rapidjson::StringBuffer> writer_;
 };

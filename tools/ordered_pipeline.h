@@ -1,11 +1,11 @@
 #ifndef KAVRIX_TOOLS_ORDERED_PIPELINE_H_
 #define KAVRIX_TOOLS_ORDERED_PIPELINE_H_
 
-#include <atomic>
 #include <condition_variable>
 #include <cstddef>
 #include <exception>
 #include <functional>
+#include <map>
 #include <mutex>
 #include <system_error>
 #include <thread>
@@ -15,8 +15,8 @@
 namespace kavrix::tools {
 
 // Takes batches from a source, works on them on several threads at once and puts them to a sink in the order
-// of taking. One thread at a time takes, one puts. Each thread holds one batch until that is put, so the
-// memory does not grow with the length of the source. The batch that `take` fills is empty.
+// of taking. One thread at a time takes, one puts. At most two batches a thread are held, so the memory does
+// not grow with the length of the source.
 //
 // A batch whose take or work throws is still put, with what it holds by then; nothing follows it.
 template <class Batch>
@@ -34,6 +34,7 @@ class OrderedPipeline {
   // Returns when all is put and all threads are joined. Throws what a stage threw first in the order of the
   // source. Runs once. The calling thread is one of the threads.
   void Run(int thread_count) {
+    most_held_ = 2 * static_cast<std::size_t>(thread_count);
     std::vector<std::thread> threads;
     for (int i = 1; i < thread_count; ++i) {
       try {
@@ -48,52 +49,55 @@ class OrderedPipeline {
   }
 
  private:
+  struct Finished {
+    Batch batch;
+    std::exception_ptr error;  // of its take or its work
+  };
+
   void RunThread() {
-    std::exception_ptr error;
-    while (!error) {
-      Batch batch;
+    for (;;) {
+      Finished finished;
       std::size_t turn = 0;
-      if (!Take(batch, turn, error)) return;
-      if (!error) error = Caught([&] { stages_.work(batch); });
-      if (!AwaitTurn(turn)) return;
-      const std::exception_ptr put_error = Caught([&] { stages_.put(batch); });
-      if (put_error) error = put_error;
-      error ? Stop(error) : NextTurn();
+      if (!Take(finished, turn)) return;
+      if (!finished.error) finished.error = Caught([&] { stages_.work(finished.batch); });
+      PutInTurn(turn, std::move(finished));
     }
   }
 
-  bool Take(Batch& batch, std::size_t& turn, std::exception_ptr& error) {
+  bool Take(Finished& taken, std::size_t& turn) {
     const std::lock_guard<std::mutex> lock(take_mutex_);
-    if (at_end_ || stopped_) return false;
-    bool taken = true;
-    error = Caught([&] { taken = stages_.take(batch); });
-    at_end_ = !taken || error;
+    if (at_end_ || !AwaitRoom()) return false;
+    bool is_any = true;
+    taken.error = Caught([&] { is_any = stages_.take(taken.batch); });
+    at_end_ = !is_any || taken.error;
     turn = taken_count_++;
-    return taken;
+    return is_any;
   }
 
-  bool AwaitTurn(std::size_t turn) {
+  bool AwaitRoom() {
     std::unique_lock<std::mutex> lock(put_mutex_);
-    turn_changed_.wait(lock, [&] { return stopped_ || put_count_ == turn; });
+    room_made_.wait(lock, [&] { return stopped_ || taken_count_ - put_count_ < most_held_; });
     return !stopped_;
   }
 
-  void NextTurn() {
-    {
-      const std::lock_guard<std::mutex> lock(put_mutex_);
+  // Whoever finishes the batch whose turn it is puts it and those after it that others have left here.
+  void PutInTurn(std::size_t turn, Finished finished) {
+    std::unique_lock<std::mutex> lock(put_mutex_);
+    finished_.emplace(turn, std::move(finished));
+    while (!putting_ && !stopped_ && !finished_.empty() && finished_.begin()->first == put_count_) {
+      Finished next = std::move(finished_.begin()->second);
+      finished_.erase(finished_.begin());
+      putting_ = true;
+      lock.unlock();
+      const std::exception_ptr put_error = Caught([&] { stages_.put(next.batch); });
+      lock.lock();
+      putting_ = false;
       ++put_count_;
+      error_ = put_error ? put_error : next.error;
+      stopped_ = error_ != nullptr;
+      room_made_.notify_all();
+      if (stopped_) stages_.stop();
     }
-    turn_changed_.notify_all();
-  }
-
-  void Stop(const std::exception_ptr& error) {
-    {
-      const std::lock_guard<std::mutex> lock(put_mutex_);
-      error_ = error;
-      stopped_ = true;
-    }
-    turn_changed_.notify_all();
-    stages_.stop();
   }
 
   template <class Stage>
@@ -107,14 +111,19 @@ class OrderedPipeline {
   }
 
   const Stages stages_;
+  std::size_t most_held_ = 0;
+
   std::mutex take_mutex_;
-  bool at_end_ = false;          // guarded by take_mutex_
-  std::size_t taken_count_ = 0;  // guarded by take_mutex_
+  bool at_end_ = false;  // guarded by take_mutex_, as is the next
+  std::size_t taken_count_ = 0;
+
   std::mutex put_mutex_;
-  std::condition_variable turn_changed_;
-  std::size_t put_count_ = 0;  // guarded by put_mutex_
-  std::exception_ptr error_;   // guarded by put_mutex_
-  std::atomic<bool> stopped_{false};
+  std::condition_variable room_made_;
+  std::map<std::size_t, Finished> finished_;  // guarded by put_mutex_, as are the next; by turn
+  std::size_t put_count_ = 0;
+  bool putting_ = false;
+  bool stopped_ = false;
+  std::exception_ptr error_;
 };
 
 }  // namespace kavrix::tools

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <chrono>
 #include <future>
 #include <set>
@@ -27,7 +28,7 @@ class OrderedPipelineTest : public ::testing::TestWithParam<int> {
     EXPECT_TRUE(alone);
     EXPECT_EQ(batch.number, -1);
     if (taken_ < end_) batch.number = taken_++;
-    EXPECT_LE(taken_ - static_cast<int>(put_.size()), GetParam());
+    EXPECT_LE(taken_ - static_cast<int>(put_.size()), 2 * GetParam());
     taking_ = false;
     return batch.number >= 0;
   }
@@ -109,6 +110,18 @@ TEST_P(OrderedPipelineTest, WorksOnAsManyThreadsAsAskedForAndTheCallersIsOne) {
   };
   Run(std::move(stages));
   EXPECT_EQ(threads.count(std::this_thread::get_id()), 1U);
+}
+
+TEST_P(OrderedPipelineTest, SlowBatchHoldsUpTheOthersOnlyWhenThereIsNoRoomLeft) {
+  if (GetParam() == 1) return;
+  std::atomic<int> worked{0};
+  auto stages = Stages();
+  stages.work = [&](Batch& batch) {
+    while (batch.number == 0 && worked < 2 * GetParam() - 1) std::this_thread::yield();
+    ++worked;
+  };
+  Run(std::move(stages));
+  EXPECT_EQ(worked, 500);
 }
 
 TEST_P(OrderedPipelineTest, ErrorOfTheWorkComesAfterAllBatchesBeforeIt) {
