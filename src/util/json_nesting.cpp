@@ -59,13 +59,9 @@ class NestingScanner {
   }
 
   void Close(char opening) {
-    const bool in_object = !open_.empty() && open_.back() == '{';
-    if (!open_.empty() && open_.back() == opening) {
-      open_.pop_back();
-      behind_value_ = true;
-    } else if (in_object && comment_seen_) {
-      behind_value_ = false;  // a separator: see below
-    }
+    if (open_.empty() || open_.back() != opening) return;
+    open_.pop_back();
+    behind_value_ = true;
   }
 
   // In an object, the reader takes whatever follows a value and a comment for the separator, but for a "}".
