@@ -11,8 +11,8 @@
 #include <string>
 
 // Log records with a tag, filtered by level and tag before anything of the message is evaluated. A sink
-// receives the finished records; util/tagged_log_plog.h makes one of any plog appender or logger, util/log_line.h
-// one of any stream.
+// receives the finished records; util/tagged_log_plog.h makes one of any plog appender or logger,
+// util/log_line.h one of any stream.
 namespace kavrix::logging {
 
 enum class LogLevel {
@@ -59,8 +59,8 @@ class Logger {
   static bool TestLogLevelAndTag(std::uint32_t instance_id, LogLevel level, const std::string& tag) noexcept;
 };
 
-// A record being written. Its destructor completes it and hands it to the instance's sink. A message that memory runs
-// out for arrives cut short, or not at all.
+// A record being written. Its destructor completes it and hands it to the instance's sink. A message that
+// memory runs out for arrives cut short, or not at all.
 class Record {
  public:
   // `tag` must outlive the record.
