@@ -1,11 +1,13 @@
 #include "tools/progress.h"
 
+#include <cmath>
 #include <cstdio>
 
 namespace kavrix::tools {
 namespace {
 
-constexpr const char* kClearLine = "\r\x1b[K";
+// In place of what stands on the line. A terminal that cannot be written to is no reason to end the work.
+void Draw(const std::string& text) { (void)std::fputs(("\r\x1b[K" + text).c_str(), stderr); }
 
 std::string TwoDigits(std::uint64_t number) { return (number < 10 ? "0" : "") + std::to_string(number); }
 
@@ -16,7 +18,7 @@ std::string ClockText(std::uint64_t seconds) {
          TwoDigits(seconds % 60);
 }
 
-std::uint64_t Whole(double number) { return static_cast<std::uint64_t>(number + 0.5); }
+std::uint64_t Whole(double number) { return static_cast<std::uint64_t>(std::llround(number)); }
 
 }  // namespace
 
@@ -37,7 +39,7 @@ Progress::Progress(bool shown, std::optional<std::uint64_t> all_bytes) : shown_(
 }
 
 Progress::~Progress() {
-  if (drawn_) std::fputs(kClearLine, stderr);
+  if (drawn_) Draw("");
 }
 
 void Progress::Add(std::size_t names, std::size_t failed, std::size_t bytes) {
@@ -50,7 +52,7 @@ void Progress::Add(std::size_t names, std::size_t failed, std::size_t bytes) {
   next_draw_ = now + std::chrono::milliseconds(200);
   drawn_ = true;
   const double seconds = std::chrono::duration<double>(now - begin_).count();
-  std::fputs((kClearLine + ProgressText(counts_, seconds)).c_str(), stderr);
+  Draw(ProgressText(counts_, seconds));
 }
 
 }  // namespace kavrix::tools
