@@ -4,7 +4,7 @@ It goes beyond the standard: comments are skipped, whatever follows the root is 
 texts keep their bytes, raw control characters and broken UTF-8 included. Integers and reals stay apart.
 """
 
-NESTING_LIMIT = 1000
+NESTING_LIMIT = 256
 INT64_MIN, UINT64_MAX = -(1 << 63), (1 << 64) - 1
 SPACES = b" \t\r\n"
 DIGITS = b"0123456789"
