@@ -41,11 +41,12 @@ inline const Name& P2() {
 inline const Name& P3() {
   static const std::string light =
       R"({"light_type":1,"turn_arrow_type":2,"remain_time":30,"text":"30","total_time":60})";
-  static const Name name = MakeName("P3",
-                                    R"({"is_force_":0,"scene":1,"mode":0,"style":2,"id":"m1","is_animation":1,)"
-                                    R"("light_descriptors":[)" +
-                                        light + "," + light + "," + light + "]}",
-                                    "@2.multiLightCountdownBubble");
+  static const Name name =
+      MakeName("P3",
+               R"({"is_force_":0,"scene":1,"mode":0,"style":2,"id":"m1","is_animation":1,)"
+               R"("light_descriptors":[)" +
+                   light + "," + light + "," + light + "]}",
+               "@2.multiLightCountdownBubble");
   return name;
 }
 

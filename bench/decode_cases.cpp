@@ -1,0 +1,157 @@
+// Whole decodes: of each kind, of growing names, of names made to be slow.
+
+#include <json/reader.h>
+
+#include <fstream>
+#include <memory>
+#include <stdexcept>
+
+#include "bench/cases.h"
+#include "bench/names.h"
+#include "bench/plain/plain_transform.h"
+#include "map_resource/map_resource_transform.h"
+
+#if defined(__GNUC__)
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+#endif
+
+namespace kavrix::bench {
+namespace {
+
+using Run = std::function<void()>;
+
+template <class Transform>
+Run Decode(const std::string& name) {
+  return [transform = std::make_shared<Transform>(MakeContext()), name] {
+    std::shared_ptr<BubbleDrawDescriptor> out;
+    transform->GetBubbleDrawDescriptor(name, out);
+    Use(out);
+  };
+}
+
+template <class Transform>
+Run DecodeMarker(const std::string& name) {
+  return [transform = std::make_shared<Transform>(MakeContext()), name] {
+    std::shared_ptr<BubbleDrawDescriptor> out;
+    transform->GetMarkerDrawDescriptor(name, out);
+    Use(out);
+  };
+}
+
+// The first sample name of a kind.
+std::string SampleName(const std::string& stem) {
+  std::ifstream file(KAVRIX_SAMPLES_DIR "/" + stem + ".txt");
+  std::string name;
+  if (!std::getline(file, name)) throw std::runtime_error("no sample names of " + stem);
+  return name;
+}
+
+void AddKinds(std::vector<Case>& cases) {
+  for (const char* const stem : {"traffic_bubble",
+                                 "route_name_bubble",
+                                 "indoor_entries_bubble",
+                                 "companion_bubble",
+                                 "camera_bubble",
+                                 "eta_bubble",
+                                 "route_label_bubble",
+                                 "route_explain_bubble",
+                                 "marker_bubble",
+                                 "light_countdown_bubble",
+                                 "multi_light_countdown_bubble",
+                                 "via_circle_bubble",
+                                 "light_wait_bubble",
+                                 "turn_bubble",
+                                 "hd_long_solid_bubble",
+                                 "underground_park_bubble",
+                                 "force_dot_bubble",
+                                 "force_poll_bubble",
+                                 "yaw_notice_bubble",
+                                 "route_accident_bubble",
+                                 "safe_warning_bubble",
+                                 "lane_change_bubble"}) {
+    const std::string what = stem;
+    cases.push_back({"kind/" + what, [what] { return Decode<MapResourceTransform>(SampleName(what)); }});
+    cases.push_back(
+        {"plain-kind/" + what, [what] { return Decode<plain::PlainTransform>(SampleName(what)); }});
+  }
+  cases.push_back(
+      {"kind/marker_name", [] { return DecodeMarker<MapResourceTransform>(SampleName("marker_name")); }});
+  cases.push_back({"plain-kind/marker_name",
+                   [] { return DecodeMarker<plain::PlainTransform>(SampleName("marker_name")); }});
+}
+
+// A route-explain payload with so many secondary lines of 8 bytes that it has about `size` bytes.
+std::string PayloadOfSize(std::size_t size) {
+  std::string payload = R"({"scene":1,"mode":0,"uid":"r-17","second_content":["line")";
+  while (payload.size() + 2 < size) payload += R"(,"8 bytes.")";
+  return payload + "]}";
+}
+
+void AddLengths(std::vector<Case>& cases) {
+  for (const std::size_t size : {64U, 128U, 256U, 512U, 1024U, 2048U, 4096U}) {
+    const std::string payload = PayloadOfSize(size);
+    const std::string name = MapResourceManager::kavrix_resource_prefix + payload + ".routeExplainBubble";
+    const std::string what = std::to_string(payload.size());
+    cases.push_back({"length/" + what, [name] { return Decode<MapResourceTransform>(name); }});
+    cases.push_back({"plain-length/" + what, [name] { return Decode<plain::PlainTransform>(name); }});
+    cases.push_back({"bare-parse-length/" + what, [payload] {
+                       return [payload] {
+                         Json::Value root;
+                         Json::Reader reader;
+                         Use(reader.parse(payload, root, false));
+                       };
+                     }});
+  }
+}
+
+// What a name of a size is made of: `begin`, `middle` again and again, `end`.
+struct LongName {
+  const char* what;
+  const char* begin;
+  const char* middle;
+  const char* end;
+};
+
+constexpr LongName kLongNames[] = {
+    {"one text", R"({"content":")", "x", R"("}.trafficBubble)"},
+    {"text of escapes", R"({"content":")", "\\u524d", R"("}.trafficBubble)"},
+    {"array of objects", R"({"cameras":[{"type":1,"speed":60})", R"(,{"type":1,"speed":60})",
+     "]}.cameraBubble"},
+    {"dots, fields", "", ".", "_0_x_0@3.etaBubble"},
+    {"dots, JSON", "", ".", ".trafficBubble"},
+    {"@", "", "@", ".etaBubble"},
+    {"_", "", "_", "@3.etaBubble"},
+    {"/**/ before the object", "", "/**/", "{}.trafficBubble"},
+    {"/**/ inside the object", R"({"scene":1)", "/**/", "}.trafficBubble"},
+    {"brackets, open", R"({"content":)", "[", "}.trafficBubble"},
+    {"brackets, closed", R"({"content":[0)", ",[[[[[[[[[[[[[[[[[[[[]]]]]]]]]]]]]]]]]]]]", "]}.trafficBubble"},
+    {"the markers' tail", "", "Bubble", ".etaBubble"},
+};
+
+std::string MakeLongName(const LongName& parts, std::size_t size) {
+  std::string name = MapResourceManager::kavrix_resource_prefix;
+  name += parts.begin;
+  while (name.size() < size) name += parts.middle;
+  return name + parts.end;
+}
+
+void AddLinear(std::vector<Case>& cases) {
+  for (const LongName& parts : kLongNames) {
+    for (const std::size_t megabytes : {1U, 2U}) {
+      const std::string id = "linear/" + std::to_string(megabytes) + "/" + parts.what;
+      cases.push_back({id, [&parts, megabytes] {
+                         return Decode<MapResourceTransform>(MakeLongName(parts, megabytes * 1000000));
+                       }});
+    }
+  }
+}
+
+}  // namespace
+
+void AddDecodeCases(std::vector<Case>& cases) {
+  AddKinds(cases);
+  AddLengths(cases);
+  AddLinear(cases);
+}
+
+}  // namespace kavrix::bench

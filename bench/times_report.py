@@ -1,0 +1,88 @@
+"""Turns the times of scripts/bench into the table of ratios of docs/performance.md.
+
+times_report.py BUILD_FOLDER DOCS_FOLDER
+"""
+
+import json
+import statistics
+import sys
+
+from report import group, machine, rewrite_section, table
+
+
+def read(path):
+    """The least processor time of the repetitions, in ns, by case: whatever else runs only adds to it."""
+    with open(path, encoding="utf-8") as file:
+        runs = json.load(file)["benchmarks"]
+    times = {}
+    for run in runs:
+        if run["run_type"] == "iteration":
+            assert run["time_unit"] == "ns"
+            times[run["run_name"]] = min(run["cpu_time"], times.get(run["run_name"], float("inf")))
+    return times
+
+
+def ratios(times):
+    ways = [("decode", "whole decode"), ("bare-parse", "bare JsonCpp parse"), ("plain", "plain decoder"),
+            ("nlohmann-job", "parse + keys, nlohmann::json"), ("rapidjson-job", "parse + keys, RapidJSON")]
+    rows = []
+    for way, title in ways:
+        row = [title]
+        for name in ["P1", "P2", "P3"]:
+            time = times[f"{way}/{name}"]
+            row += [f"{time:,.0f}", f"{time / times[f'bare-parse/{name}']:.2f}"]
+        rows.append(row)
+    return table(["ns", "P1", "ratio", "P2", "ratio", "P3", "ratio"], rows)
+
+
+def stages(times):
+    cases = ["find/P1", "envelope/P1", "parse/P1", "keys/P1", "snapshot/names of 8 bytes",
+             "snapshot/names of 24 bytes, 4 items", "log/off", "log/on", "decode/P1", "decode-logs-on/P1", "decode/P4",
+             "plain/P4", "decode-logs-on/P4"]
+    return table(["case", "ns"], [[case.replace("/", ", "), f"{times[case]:,.1f}"] for case in cases])
+
+
+def kinds(times):
+    plain = group(times, "plain-kind")
+    rows = [[kind.replace("_", " "), f"{time:,.0f}", f"{plain[kind]:,.0f}", f"{plain[kind] / time:.2f}"]
+            for kind, time in group(times, "kind").items()]
+    return table(["kind", "decode, ns", "plain decoder, ns", "ratio"], rows)
+
+
+def linear(times):
+    one, two = group(times, "linear/1"), group(times, "linear/2")
+    rows = [[f"`{what}`", f"{time / 1e6:,.3f}", f"{two[what] / 1e6:,.3f}", f"{two[what] / time:.2f}"]
+            for what, time in one.items()]
+    return table(["made of", "10⁶ bytes, ms", "2 × 10⁶ bytes, ms", "ratio"], rows)
+
+
+def threads(path):
+    with open(path, encoding="utf-8") as file:
+        rounds = [[int(rate) for rate in line.split("\t")] for line in file]
+    one, two = [[round_[i] for round_ in rounds] for i in (0, 1)]
+    median = [statistics.median(one), statistics.median(two)]
+    best = [max(one), max(two)]
+    rows = [["decodes a second, one thread", f"{median[0]:,.0f}", f"{best[0]:,}"],
+            ["decodes a second, two threads", f"{median[1]:,.0f}", f"{best[1]:,}"],
+            ["two threads over one", f"{median[1] / median[0]:.2f}", f"{best[1] / best[0]:.2f}"]]
+    return table([f"{len(rounds)} short rounds", "median", "best"], rows)
+
+
+def main(build, docs):
+    times = read(f"{build}/times.json")
+    with open(f"{build}/cases.txt", encoding="utf-8") as file:
+        times = {case: times[case] for case in file.read().splitlines()}
+    parts = {"Ratios": ratios(times), "Stages": stages(times), "Kinds": kinds(times),
+             "Long names": linear(times), "Threads": threads(f"{build}/threads.tsv")}
+    text = machine("libjsoncpp-dev", "libbenchmark-dev", "nlohmann-json3-dev", "rapidjson-dev")
+    with open(f"{build}/times.json", encoding="utf-8") as file:
+        load = json.load(file)["context"]["load_avg"]
+    text += f"Load of the machine when it began: {load[0]:.1f}. The least processor time of five runs.\n"
+    for title, part in parts.items():
+        text += f"\n### {title}\n\n{part}"
+    rewrite_section(f"{docs}/performance.md", "times", text)
+    print(parts["Ratios"])
+    print(parts["Threads"])
+
+
+main(*sys.argv[1:])
