@@ -34,7 +34,7 @@ constexpr char kWord[] = "an integer from 0 to 4294967295 or a text such as \"0x
 
 TEST(BubbleLayerConfigErrorsTest, TextThatIsNoJson) {
   for (const std::string text : {"", "{", "{} x", "// c\n{}", "{'a':1}", R"({"context_name":"a",})"}) {
-    EXPECT_THAT(ErrorOf(text), StartsWith("not valid JSON: ")) << text;
+    EXPECT_THAT(ErrorOf(text), StartsWith("not valid JSON: Line ")) << text;
   }
 }
 

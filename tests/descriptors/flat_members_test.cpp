@@ -109,6 +109,12 @@ TEST(FlatMembersTest, ValuesOfANewDescriptorAreDefaults) {
   EXPECT_FALSE(IsDefault(Text("t", " ")));
 }
 
+TEST(FlatMembersTest, AValueUnderAnotherPathIsAnotherMember) {
+  EXPECT_FALSE(Integer("a", 1) == Integer("b", 1));
+  EXPECT_FALSE(Integer("a", 1) == Integer("a", 2));
+  EXPECT_TRUE(Integer("a", 1) == Integer("a", 1));
+}
+
 }  // namespace
 }  // namespace test
 }  // namespace kavrix

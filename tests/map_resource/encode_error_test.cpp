@@ -117,6 +117,30 @@ TEST(EncodeErrorTest, BytesThatAreNotUtf8InsideALightOrALine) {
             "second_content[1]");
 }
 
+TEST(EncodeErrorTest, TheFirstOfSeveralBadTextsIsNamed) {
+  MultiLightCountdownTimerDrawDescriptor lights;
+  lights.id = "\xFF";
+  lights.light_descriptors.resize(1);
+  lights.light_descriptors[0].text = "\xFE";
+  EXPECT_EQ(ErrorOf([&] { return EncodeMultiLightCountdownBubbleResourceName(lights); }).field(), "id");
+  DestNameEtaDrawDescriptor eta;
+  eta.content = "a_b";
+  eta.sub_text = "c_d";
+  EXPECT_EQ(ErrorOf([&] { return EncodeEtaBubbleResourceName(eta); }).field(), "content");
+}
+
+TEST(EncodeErrorTest, MarkerNameWithBytesThatAreNotUtf8) {
+  MarkerDrawDescriptor marker;
+  marker.name = "\xFF";
+  const EncodeError error = ErrorOf([&] { return EncodeMarkerResourceName(marker); });
+  EXPECT_EQ(error.kind(), "marker");
+  EXPECT_EQ(error.field(), "name");
+  EXPECT_STREQ(error.what(),
+               "marker: name: \"\xEF\xBF\xBD\" at byte 0, column 1, is not UTF-8; the reader would have "
+               "decoded marker "
+               "with bytes that are not UTF-8");
+}
+
 TEST(EncodeErrorTest, PrefixThatHoldsAMarker) {
   const char* const prefix = MapResourceManager::kavrix_resource_prefix;
   MapResourceManager::kavrix_resource_prefix = "x.trafficBubble/";

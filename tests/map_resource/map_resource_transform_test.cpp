@@ -204,6 +204,23 @@ TEST_F(MapResourceTransformTest, RecordsNameTheFileTheyAreWrittenIn) {
   EXPECT_THAT(collector_.files(), ElementsAre("map_resource_transform.cpp", "map_resource_transform.cpp"));
 }
 
+TEST_F(MapResourceTransformTest, LogsThatAreOffChangeNothing) {
+  for (const std::string_view marker : kBubbleMarkers) {
+    for (const std::string payload : {"{}", "{", "{}@1", "{@1", "a_0_0@1", "1_2@3"}) {
+      Decode(payload + std::string(marker));
+      const auto logged = out_;
+      logging::SetLoggerInstance(logging::kavrix_log_instance_id_, {});
+      out_ = nullptr;
+      Decode(payload + std::string(marker));
+      EXPECT_THAT(records(), ::testing::IsEmpty());
+      ASSERT_EQ(out_ == nullptr, logged == nullptr) << name_;
+      if (out_ != nullptr) EXPECT_EQ(*out_, *logged) << name_;
+      collector_.Install();
+      out_ = nullptr;
+    }
+  }
+}
+
 TEST_F(MapResourceTransformTest, EveryCallMakesANewDescriptor) {
   Decode("{}.trafficBubble");
   const auto first = out_;

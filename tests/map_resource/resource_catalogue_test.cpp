@@ -53,8 +53,8 @@ TEST(ResourceCatalogueTest, DayAndNightIdsTogetherAreTheIdsWithADescription) {
 }
 
 TEST(ResourceCatalogueTest, IdsOutsideTheTableHaveNoDescription) {
-  for (const std::uint32_t id : {0x0, 0x3, 0x5, 0xc, 0xd, 0xf, 0x1000c, 0x1002c, 0x10037, 0x2000f, 0x30037,
-                                 0x40000, 0x100, 0x103, 0x10000, 0x201}) {
+  for (const std::uint32_t id : {0x0U, 0x3U, 0x5U, 0xcU, 0xdU, 0xfU, 0x1000cU, 0x1002cU, 0x10037U, 0x2000fU,
+                                 0x30037U, 0x40000U, 0x100U, 0x103U, 0x10000U, 0x201U}) {
     EXPECT_EQ(ResourceID2DescriptionMap.count(id), 0U) << std::hex << id;
     EXPECT_EQ(DayNightResourceMap.count(id), 0U) << std::hex << id;
   }

@@ -29,12 +29,15 @@ inline std::ostream& operator<<(std::ostream& stream, const SeenRecord& record) 
 // Collects the records of the current log instance while it lives.
 class RecordCollector {
  public:
-  RecordCollector() {
-    logging::SetLoggerInstance(logging::kavrix_log_instance_id_, {sink_, logging::LogLevel::kRoutine, {}});
-  }
+  RecordCollector() { Install(); }
   RecordCollector(const RecordCollector&) = delete;
   RecordCollector& operator=(const RecordCollector&) = delete;
   ~RecordCollector() { logging::SetLoggerInstance(logging::kavrix_log_instance_id_, {}); }
+
+  // Once more, after something else was.
+  void Install() {
+    logging::SetLoggerInstance(logging::kavrix_log_instance_id_, {sink_, logging::LogLevel::kRoutine, {}});
+  }
 
   const std::vector<SeenRecord>& records() const { return sink_->records; }
   const std::vector<std::string>& files() const { return sink_->files; }

@@ -55,6 +55,19 @@ TEST_F(JsonKeyReaderTest, TextIsTakenFromATextAlone) {
     EXPECT_EQ(ReadText(value), "current");
 }
 
+TEST_F(JsonKeyReaderTest, AnObjectOfAnyNumberOfMembersIsReadTheSame) {
+  std::string members = R"("k":5)";
+  for (int count = 1; count <= 60; ++count) {
+    JsonKeyReader reader = Reader("{" + members + "}");
+    int number = 0;
+    reader.Integer("k", number);
+    EXPECT_EQ(number, 5) << count;
+    reader.Integer("absent", number);
+    EXPECT_EQ(number, 5) << count;
+    members += ",\"a" + std::to_string(count) + "\":" + std::to_string(count);
+  }
+}
+
 TEST_F(JsonKeyReaderTest, IntegerIsTakenFromAnIntegerAlone) {
   EXPECT_EQ(ReadInteger<std::int32_t>("-5"), -5);
   for (const char* const value : {"\"5\"", "5.0", "3000000000", "true", "null", "[5]"}) {
