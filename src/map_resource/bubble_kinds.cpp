@@ -3,7 +3,7 @@
 namespace kavrix {
 
 const BubbleKindInfo& InfoOf(BubbleKind kind) {
-  switch (kind) {
+  switch (kind) {  // GCOVR_EXCL_BR_LINE: see the end
     case BubbleKind::kTraffic:
       return kTrafficBubbleInfo;
     case BubbleKind::kRouteName:

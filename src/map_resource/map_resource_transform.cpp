@@ -22,7 +22,7 @@ void MapResourceTransform::GetBubbleDrawDescriptor(const std::string& resource_n
                "resource_name:" << resource_name << ", it is a not valid bubble.");
     return;
   }
-  switch (*kind) {
+  switch (*kind) {  // GCOVR_EXCL_BR_LINE: of no other value there is one
     case BubbleKind::kTraffic:
       return ParseTrafficBubbleResourceName(resource_name, out);
     case BubbleKind::kRouteName:

@@ -214,7 +214,9 @@ TEST_F(MapResourceTransformTest, LogsThatAreOffChangeNothing) {
       Decode(payload + std::string(marker));
       EXPECT_THAT(records(), ::testing::IsEmpty());
       ASSERT_EQ(out_ == nullptr, logged == nullptr) << name_;
-      if (out_ != nullptr) EXPECT_EQ(*out_, *logged) << name_;
+      if (out_ != nullptr) {
+        EXPECT_EQ(*out_, *logged) << name_;
+      }
       collector_.Install();
       out_ = nullptr;
     }
