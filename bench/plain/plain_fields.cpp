@@ -6,6 +6,8 @@
 #include <limits>
 
 #include "map_resource/map_resource_manager.h"
+#include "util/json_nesting.h"
+#include "util/json_util.h"
 
 // Some JsonCpp versions mark the legacy reader deprecated.
 #if defined(__GNUC__)
@@ -62,6 +64,7 @@ bool ToInt(const std::string& text, int& value) {
 }
 
 bool Parse(const std::string& text, Json::Value& root) {
+  if (JsonUtil::IsNestedDeeperThan(text, JsonUtil::kDeepestValue)) return false;
   try {
     Json::Reader reader;
     return reader.parse(text, root, false) && root.isObject();
