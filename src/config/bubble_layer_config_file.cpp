@@ -97,8 +97,9 @@ template <class Record>
 void ReadValues(const std::string& record_name, const Json::Value& values, Record& record) {
   if (!values.isArray()) Fail(record_name + ".values", "an array", values);
   if (values.size() > Record::kValueCount) {
-    throw ConfigError(record_name + " value " + std::to_string(Record::kValueCount + 1) + ": expected at most " +
-                      std::to_string(Record::kValueCount) + " values, found " + std::to_string(values.size()));
+    throw ConfigError(record_name + " value " + std::to_string(Record::kValueCount + 1) +
+                      ": expected at most " + std::to_string(Record::kValueCount) + " values, found " +
+                      std::to_string(values.size()));
   }
   std::size_t number = 0;
   for (const Json::Value& value : values) {

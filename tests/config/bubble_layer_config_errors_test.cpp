@@ -49,9 +49,9 @@ TEST(BubbleLayerConfigErrorsTest, RootThatIsNoObject) {
 }
 
 TEST(BubbleLayerConfigErrorsTest, UnknownKey) {
-  EXPECT_EQ(
-      ErrorOf(R"({"bubble_layers":{}})"),
-      "the configuration: unknown key \"bubble_layers\", expected \"context_name\", \"multi_light_type\" or \"bubble_layer\"");
+  EXPECT_EQ(ErrorOf(R"({"bubble_layers":{}})"),
+            "the configuration: unknown key \"bubble_layers\", expected \"context_name\", "
+            "\"multi_light_type\" or \"bubble_layer\"");
 }
 
 TEST(BubbleLayerConfigErrorsTest, ContextNameThatIsNoText) {
@@ -74,9 +74,12 @@ TEST(BubbleLayerConfigErrorsTest, BubbleLayerThatIsNoObject) {
 }
 
 TEST(BubbleLayerConfigErrorsTest, UnknownRecord) {
-  EXPECT_EQ(ErrorOfLayer(R"("trafic_style":{})"), "bubble_layer: unknown key \"trafic_style\", expected a record such as \"traffic_style\"");
-  EXPECT_EQ(ErrorOfLayer(R"("unread_style_14":{})"), "bubble_layer: unknown key \"unread_style_14\", expected a record such as \"traffic_style\"");
-  EXPECT_EQ(ErrorOfLayer(R"("":{})"), "bubble_layer: unknown key \"\", expected a record such as \"traffic_style\"");
+  EXPECT_EQ(ErrorOfLayer(R"("trafic_style":{})"),
+            "bubble_layer: unknown key \"trafic_style\", expected a record such as \"traffic_style\"");
+  EXPECT_EQ(ErrorOfLayer(R"("unread_style_14":{})"),
+            "bubble_layer: unknown key \"unread_style_14\", expected a record such as \"traffic_style\"");
+  EXPECT_EQ(ErrorOfLayer(R"("":{})"),
+            "bubble_layer: unknown key \"\", expected a record such as \"traffic_style\"");
 }
 
 TEST(BubbleLayerConfigErrorsTest, RecordThatIsNoObject) {

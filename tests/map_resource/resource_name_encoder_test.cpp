@@ -4,6 +4,7 @@
 #include <random>
 
 #include "map_resource/bubble_kinds.h"
+#include "tests/support/all_kinds.h"
 #include "tests/support/decode_test.h"
 #include "tests/support/random_bubbles.h"
 #include "util/json_util.h"

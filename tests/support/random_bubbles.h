@@ -3,18 +3,10 @@
 
 #include <random>
 #include <string>
-#include <vector>
 
 #include "descriptors/descriptors.h"
-#include "map_resource/bubble_kinds.h"
 
 namespace kavrix::test {
-
-// Every kind, marker names last.
-std::vector<const BubbleKindInfo*> AllKinds();
-
-// The names of a kind's golden file.
-std::vector<std::string> GoldenNames(BubbleKind kind);
 
 // Fills what names of a kind carry with values that lean to the awkward: extremes, separators, markers,
 // escapes.

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "map_resource/bubble_markers.h"
-#include "tests/support/random_bubbles.h"
+#include "tests/support/all_kinds.h"
 #include "tests/support/tool.h"
 
 namespace kavrix::test {
