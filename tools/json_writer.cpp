@@ -16,7 +16,11 @@ void JsonWriter::Real(float value) {
 }
 
 void JsonWriter::Text(std::string_view text) {
-  if (ValidUtf8Length(text) < text.size()) return Text(ToValidUtf8(text));
+  std::string repaired;
+  if (ValidUtf8Length(text) < text.size()) {
+    repaired = ToValidUtf8(text);
+    text = repaired;
+  }
   writer_.String(text.data(), static_cast<rapidjson::SizeType>(text.size()));
 }
 

@@ -80,7 +80,7 @@ Payload WithDirection(Payload payload, std::int16_t direction) {
 
 std::string JoinName(const Payload& payload, std::string_view marker) {
   const std::string prefix = MapResourceManager::kavrix_resource_prefix;
-  const std::string name = prefix + payload.text + std::string(marker);
+  std::string name = prefix + payload.text + std::string(marker);
   if (payload.bad)
     FailOfText(marker, *payload.bad, "; the reader would have decoded " + Decoded(name, marker));
   if (!GoesTo(name, marker)) {

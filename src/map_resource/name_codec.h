@@ -75,7 +75,7 @@ std::string FieldsOf(const typename Names::Carried& carried) {
 
 template <class Names>
 std::string EncodeName(const typename Names::Carried& carried) {
-  const std::string name = JoinName(Names::Write(carried), Names::kMarker);
+  std::string name = JoinName(Names::Write(carried), Names::kMarker);
   typename Names::Carried read_back{};
   if (!Names::Read(name, read_back) || FieldsOf<Names>(read_back) != FieldsOf<Names>(carried)) {
     FailOfLoss(Names::kMarker, name);  // GCOVR_EXCL_LINE: see there

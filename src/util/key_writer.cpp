@@ -25,6 +25,7 @@ std::string Joined(const std::vector<std::string>& parts) {
 
 void JsonKeyWriter::Texts(std::string_view key, const std::vector<std::string>& texts) {
   std::vector<std::string> elements;
+  elements.reserve(texts.size());
   for (const std::string& text : texts) {
     elements.push_back(Quoted(std::string(key) + "[" + std::to_string(elements.size()) + "]", text));
   }
