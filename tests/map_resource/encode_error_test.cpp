@@ -147,6 +147,9 @@ TEST(EncodeErrorTest, PrefixThatHoldsAMarker) {
   const EncodeError error = ErrorOf([] { return EncodeTurnBubbleResourceName({}); });
   MapResourceManager::kavrix_resource_prefix = prefix;
   EXPECT_EQ(error.field(), "prefix");
+  EXPECT_STREQ(error.what(),
+               "turnBubble: prefix: \"x.trafficBubble/\" holds a marker; the reader would have decoded "
+               "trafficBubble without any field, for its payload does not parse");
   EXPECT_FALSE(error.character());
 }
 

@@ -223,6 +223,13 @@ TEST_F(MapResourceTransformTest, LogsThatAreOffChangeNothing) {
   }
 }
 
+TEST_F(MapResourceTransformTest, LogsThatAreOffChangeNothingForABrokenMarkerName) {
+  logging::SetLoggerInstance(logging::kavrix_log_instance_id_, {});
+  transform_.GetMarkerDrawDescriptor("kavrix://resource/{.marker", out_);
+  EXPECT_EQ(out_, nullptr);
+  EXPECT_THAT(records(), ::testing::IsEmpty());
+}
+
 TEST_F(MapResourceTransformTest, EveryCallMakesANewDescriptor) {
   Decode("{}.trafficBubble");
   const auto first = out_;
