@@ -3,6 +3,7 @@
 
 #include <stdexcept>
 
+#include "bench/plain/plain_transform.h"
 #include "fuzz/fuzzing.h"
 #include "map_resource/bubble_markers.h"
 #include "map_resource/map_resource_transform.h"
@@ -53,6 +54,23 @@ inline Outcome Decode(const std::string& name, EntryPoint entry_point,
   return outcome;
 }
 
+// What the decoder that is written down step by step makes of the name; it writes no records.
+inline Outcome DecodePlainly(const std::string& name, EntryPoint entry_point,
+                             const std::shared_ptr<BubbleDrawDescriptor>& before) {
+  static plain::PlainTransform transform(MakeContext());
+  Outcome outcome{before, {}, ""};
+  try {
+    if (entry_point == EntryPoint::kBubble) {
+      transform.GetBubbleDrawDescriptor(name, outcome.out);
+    } else {
+      transform.GetMarkerDrawDescriptor(name, outcome.out);
+    }
+  } catch (const std::out_of_range& exception) {
+    outcome.exception = exception.what();
+  }
+  return outcome;
+}
+
 // Recognises the kind as plainly as can be.
 inline std::optional<BubbleKind> FindBubbleKindPlainly(std::string_view name) {
   for (std::size_t i = 0; i < kBubbleMarkers.size(); ++i) {
@@ -72,6 +90,10 @@ inline void CheckName(std::string_view text, EntryPoint entry_point) {
   Require(first.exception == second.exception, "a name decoded twice throws the same");
   Require(*first.out == *second.out, "a name decoded twice gives the same descriptor");
   Require(*before == BubbleDrawDescriptor(), "the descriptor that was in `out` is never written to");
+  const Outcome plain = DecodePlainly(*name, entry_point, before);
+  Require(first.exception.empty() == plain.exception.empty(),
+          "the plain decoder throws when the library does");
+  Require(*first.out == *plain.out, "the plain decoder makes the same descriptor");
   if (entry_point == EntryPoint::kMarker) return;
 
   const std::optional<BubbleKind> kind = FindBubbleKind(ExactCopy(text).text());
