@@ -19,7 +19,7 @@ constexpr std::uint8_t kSecondB = 3;
 constexpr std::array<std::uint8_t, 256> MakePlacesInTail() {
   std::array<std::uint8_t, 256> places{};
   for (auto& place : places) place = kElsewhere;
-  for (std::uint8_t i = 0; i < kTail.size(); ++i) places[static_cast<unsigned char>(kTail[i])] = i;
+  for (std::uint8_t i = 0; i < kElsewhere; ++i) places[static_cast<unsigned char>(kTail[i])] = i;
   return places;
 }
 constexpr std::array<std::uint8_t, 256> kPlaceInTail = MakePlacesInTail();
