@@ -65,7 +65,7 @@ def threads(path):
     rows = [["decodes a second, one thread", f"{median[0]:,.0f}", f"{best[0]:,}"],
             ["decodes a second, two threads", f"{median[1]:,.0f}", f"{best[1]:,}"],
             ["two threads over one", f"{median[1] / median[0]:.2f}", f"{best[1] / best[0]:.2f}"]]
-    return table([f"{len(rounds)} short rounds", "median", "best"], rows)
+    return table([f"{len(rounds)} rounds", "median", "best"], rows)
 
 
 def main(build, docs):
