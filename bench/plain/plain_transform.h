@@ -12,8 +12,8 @@ namespace kavrix::plain {
 
 // The decoder written down step by step, without any care for its cost: a search for each marker, a copy for
 // each piece of a name, a look-up or two for each key. It shares no code with the library's decoder but the
-// descriptors, the context, the prefix and the limit of nesting. It leaves in `out`, and throws, what MapResourceTransform does;
-// it writes no records.
+// descriptors, the context, the prefix and the limit of nesting. It leaves in `out`, and throws, what
+// MapResourceTransform does; it writes no records.
 class PlainTransform {
  public:
   explicit PlainTransform(std::shared_ptr<KavrixContext> context);
