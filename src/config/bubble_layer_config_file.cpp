@@ -72,7 +72,7 @@ std::uint32_t ReadWord(const std::string& where, const Json::Value& value) {
   if (const auto text = JsonUtil::AsText(value)) {
     std::uint32_t word = 0;
     const char* const end = text->data() + text->size();
-    if (text->size() <= 2 || text->substr(0, 2) != "0x") Fail(where, kExpected, value);
+    if (text->substr(0, 2) != "0x") Fail(where, kExpected, value);
     const auto [stop, error] = std::from_chars(text->data() + 2, end, word, 16);
     if (error != std::errc() || stop != end) Fail(where, kExpected, value);
     return word;

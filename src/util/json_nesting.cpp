@@ -65,8 +65,9 @@ class NestingScanner {
   }
 
   // In an object, the reader takes whatever follows a value and a comment for the separator, but for a "}".
+  // Behind a value there is always a bracket around it: the walk ends with the root.
   bool IsSeparator(char c) const {
-    const bool anything_goes = comment_seen_ && behind_value_ && !open_.empty() && open_.back() == '{';
+    const bool anything_goes = comment_seen_ && behind_value_ && open_.back() == '{';
     return c == ',' || c == ':' || anything_goes;
   }
 

@@ -30,7 +30,7 @@ namespace {
 // "* Line 1, Column 5\n  Missing ..." as "Line 1, Column 5: Missing ..."; of several errors the first.
 std::string OnOneLine(const std::string& report) {
   const std::size_t end_of_place = report.find("\n  ");
-  if (report.rfind("* ", 0) != 0 || end_of_place == std::string::npos) return report;
+  if (end_of_place == std::string::npos) return report;  // the message of an exception
   const std::size_t begin = end_of_place + 3;
   return report.substr(2, end_of_place - 2) + ": " + report.substr(begin, report.find('\n', begin) - begin);
 }
@@ -79,7 +79,7 @@ std::optional<std::string_view> AsText(const Json::Value& value) {
   const char* end = nullptr;
   if (value.getString(&begin, &end)) return std::string_view(begin, static_cast<std::size_t>(end - begin));
   if (!value.isString()) return std::nullopt;
-  return std::string_view();  // a text without bytes, not even a NUL: JsonCpp makes none. GCOVR_EXCL_LINE
+  return std::string_view();  // made of a null pointer
 }
 
 std::string ToText(const Json::Value& value) {

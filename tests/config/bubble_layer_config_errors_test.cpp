@@ -162,5 +162,11 @@ TEST(BubbleLayerConfigErrorsTest, LongFindIsCut) {
             "multi_light_type: expected a 32-bit integer, found \"" + text.substr(0, 59) + "...");
 }
 
+TEST(BubbleLayerConfigErrorsTest, FindOfSixtyBytesStands) {
+  const std::string text = "\"" + std::string(58, 'a') + "\"";
+  EXPECT_EQ(ErrorOf(R"({"multi_light_type":)" + text + "}"),
+            "multi_light_type: expected a 32-bit integer, found " + text);
+}
+
 }  // namespace
 }  // namespace kavrix::test

@@ -217,13 +217,21 @@ TEST_F(ResourceNameEncoderTest, NamesAreCanonical) {
       EncodeTrafficBubbleResourceName(traffic, 0),
       kPrefix +
           R"({"content":"a\u002eb\u0040c\u000a\"\\/路","mode":0,"light_text":"3","nav_mode":0}.trafficBubble)");
-  EXPECT_EQ(EncodeEtaBubbleResourceName({}), kPrefix + "_1__0@0.etaBubble");
   MultiLightCountdownTimerDrawDescriptor lights;
   lights.light_descriptors.resize(2);
   lights.light_descriptors[1].turn_arrow_type = 0;
   EXPECT_EQ(
       EncodeMultiLightCountdownBubbleResourceName(lights),
       kPrefix + R"({"mode":1,"light_descriptors":[{},{"turn_arrow_type":0}]}@0.multiLightCountdownBubble)");
+}
+
+TEST_F(ResourceNameEncoderTest, FieldsThatNothingWasSetForStandThereAllTheSame) {
+  EXPECT_EQ(EncodeRouteNameBubbleResourceName({}), kPrefix + "_1_0@0.nameBubble");
+  EXPECT_EQ(EncodeIndoorEntriesBubbleResourceName({}), kPrefix + "_1__0_@0.inDoorEntriesBubble");
+  EXPECT_EQ(EncodeEtaBubbleResourceName({}), kPrefix + "_1__0@0.etaBubble");
+  EXPECT_EQ(EncodeRouteLabelBubbleResourceName({}), kPrefix + "_1@0.labelBubble");
+  EXPECT_EQ(EncodeLightWaitBubbleResourceName({}), kPrefix + "_1_0_0@0.lightWaitBubble");
+  EXPECT_EQ(EncodeHdLongSolidBubbleResourceName({}), kPrefix + "_1@0.hdLongSolidBubble");
 }
 
 TEST_F(ResourceNameEncoderTest, NothingIsLogged) {

@@ -54,6 +54,12 @@ TEST(JsonUtilStringValueTest, ValueThatIsNoObjectHasNoKeys) {
   }
 }
 
+TEST(JsonUtilStringValueTest, TextMadeOfANullPointerIsEmpty) {
+  Json::Value object;
+  object["k"] = Json::Value(Json::StaticString(nullptr));
+  EXPECT_EQ(JsonUtil::StringValue(object, "k", "default"), "");
+}
+
 TEST(JsonUtilIntValueTest, GivesTheIntegerOfTheKey) {
   EXPECT_EQ(JsonUtil::IntValue(Object(R"({"k":5})"), "k", 9), 5);
   EXPECT_EQ(JsonUtil::IntValue(Object(R"({"k":-2147483648})"), "k", 9), -2147483647 - 1);
