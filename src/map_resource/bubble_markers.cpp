@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <stdexcept>
 
 namespace kavrix {
 namespace {
@@ -25,18 +26,6 @@ constexpr std::array<std::uint8_t, 256> MakePlacesInTail() {
 constexpr std::array<std::uint8_t, 256> kPlaceInTail = MakePlacesInTail();
 static_assert(kPlaceInTail['b'] == kSecondB && kTail[kSecondB - 1] == 'b');
 
-constexpr bool EndsWith(std::string_view text, std::string_view tail) {
-  return text.size() >= tail.size() && text.substr(text.size() - tail.size()) == tail;
-}
-
-constexpr bool AllMarkersEndWithTheTail() {
-  for (const std::string_view marker : kBubbleMarkers) {
-    if (!EndsWith(marker, kTail)) return false;
-  }
-  return true;
-}
-static_assert(AllMarkersEndWithTheTail());
-
 // Chains of the markers that have the same letter before their tail, in order: by letter the first one, by
 // marker the next one. kNone ends a chain.
 constexpr std::uint8_t kNone = kBubbleMarkers.size();
@@ -51,7 +40,10 @@ constexpr LetterChains MakeLetterChains() {
   for (auto& first : chains.first) first = kNone;
   for (std::uint8_t i = kNone; i-- > 0;) {
     const std::string_view marker = kBubbleMarkers[i];
-    std::uint8_t& first = chains.first[static_cast<unsigned char>(marker[marker.size() - kTail.size() - 1])];
+    const std::size_t tail_begin = marker.size() - kTail.size();
+    // Thrown while compiling, that is an error of the build.
+    if (marker.substr(tail_begin) != kTail) throw std::logic_error("a marker without the tail");
+    std::uint8_t& first = chains.first[static_cast<unsigned char>(marker[tail_begin - 1])];
     chains.next[i] = first;
     first = i;
   }
@@ -95,8 +87,7 @@ std::optional<BubbleKind> FindBubbleKind(std::string_view resource_name) {
   const std::size_t begin = resource_name.find(kTail[0]);
   if (begin == std::string_view::npos) return std::nullopt;
   std::size_t first = kBubbleMarkers.size();
-  std::size_t place = begin + kTail.size() - 1;
-  for (; place < resource_name.size() && first != 0; place += kTail.size()) {
+  for (std::size_t place = begin; place < resource_name.size() && first != 0; place += kTail.size()) {
     const std::size_t end = EndOfTailAt(resource_name, place);
     if (end != std::string_view::npos) first = MarkerAtEnd(resource_name.substr(0, end), first);
   }

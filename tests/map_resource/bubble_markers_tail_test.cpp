@@ -2,6 +2,7 @@
 
 #include <random>
 #include <string>
+#include <vector>
 
 #include "map_resource/bubble_markers.h"
 
@@ -22,6 +23,18 @@ TEST(BubbleMarkersTailTest, MarkerIsFoundBehindAnyNumberOfLettersOfItsTail) {
       EXPECT_EQ(FindBubbleKind(name + ".etaBubble"), BubbleKind::kEta) << name;
       EXPECT_EQ(FindBubbleKind("B" + name + ".etaBubble" + name), BubbleKind::kEta) << name;
       EXPECT_EQ(FindBubbleKind("Bubble" + name + ".etaBubbx" + name), std::nullopt) << name;
+    }
+  }
+}
+
+TEST(BubbleMarkersTailTest, NothingBehindTheEndOfTheNameIsRead) {
+  for (std::string before = "B"; before.size() < 10; before += 'x') {
+    const std::string whole = before + ".etaBubble";
+    EXPECT_EQ(FindBubbleKind(whole), BubbleKind::kEta);
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+      EXPECT_EQ(FindBubbleKind(std::string_view(whole).substr(0, length)), std::nullopt) << whole;
+      const std::vector<char> bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length));
+      EXPECT_EQ(FindBubbleKind({bytes.data(), length}), std::nullopt) << whole;  // read under the sanitizer
     }
   }
 }

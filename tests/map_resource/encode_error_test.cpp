@@ -75,8 +75,14 @@ TEST(EncodeErrorTest, BarInTheSecondTextOfAnEta) {
       ErrorOf([&] { return EncodeEtaBubbleResourceName(eta); }).what(),
       "etaBubble: sub_text: \"|\" at byte 2, column 3, ends the content; the reader would have decoded "
       "etaBubble {\"content\":\"Home|12\",\"mode\":1,\"sub_text\":\"min\"}");
+}
+
+TEST(EncodeErrorTest, SeparatorInTheSecondTextOfAnEta) {
+  DestNameEtaDrawDescriptor eta;
   eta.sub_text = "1_2";
-  EXPECT_EQ(ErrorOf([&] { return EncodeEtaBubbleResourceName(eta); }).character()->byte_offset, 1U);
+  const EncodeError error = ErrorOf([&] { return EncodeEtaBubbleResourceName(eta); });
+  EXPECT_EQ(error.field(), "sub_text");
+  EXPECT_EQ(error.character()->byte_offset, 1U);
 }
 
 TEST(EncodeErrorTest, MarkerOfAKindThatIsRecognisedFirst) {

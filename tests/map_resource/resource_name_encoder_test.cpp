@@ -234,6 +234,15 @@ TEST_F(ResourceNameEncoderTest, FieldsThatNothingWasSetForStandThereAllTheSame) 
   EXPECT_EQ(EncodeHdLongSolidBubbleResourceName({}), kPrefix + "_1@0.hdLongSolidBubble");
 }
 
+TEST_F(ResourceNameEncoderTest, ForceIsAFieldOfItsOwn) {
+  LightWaitBubbleDrawDescriptor wait;
+  wait.is_force = true;
+  EXPECT_EQ(EncodeLightWaitBubbleResourceName(wait), kPrefix + "_1_0_1@0.lightWaitBubble");
+  HDLongSolidBubbleDrawDescriptor solid;
+  solid.is_force = true;
+  EXPECT_EQ(EncodeHdLongSolidBubbleResourceName(solid), kPrefix + "_1_1@0.hdLongSolidBubble");
+}
+
 TEST_F(ResourceNameEncoderTest, NothingIsLogged) {
   collector_.Clear();
   EncodeTrafficBubbleResourceName({});
