@@ -77,6 +77,13 @@ TEST(EncodeErrorTest, BarInTheSecondTextOfAnEta) {
       "etaBubble {\"content\":\"Home|12\",\"mode\":1,\"sub_text\":\"min\"}");
 }
 
+TEST(EncodeErrorTest, FieldWithBytesThatAreNotUtf8) {
+  EXPECT_STREQ(
+      ErrorOf([] { return EncodeRouteLabelBubbleResourceName(WithContent("a\xFF")); }).what(),
+      "labelBubble: content: \"\xEF\xBF\xBD\" at byte 1, column 2, is not UTF-8; the reader would have "
+      "decoded labelBubble with bytes that are not UTF-8");
+}
+
 TEST(EncodeErrorTest, SeparatorInTheSecondTextOfAnEta) {
   DestNameEtaDrawDescriptor eta;
   eta.sub_text = "1_2";

@@ -234,6 +234,12 @@ TEST_F(ResourceNameEncoderTest, FieldsThatNothingWasSetForStandThereAllTheSame) 
   EXPECT_EQ(EncodeHdLongSolidBubbleResourceName({}), kPrefix + "_1@0.hdLongSolidBubble");
 }
 
+TEST_F(ResourceNameEncoderTest, DirectionOfASafeWarningStandsBehindTheObjectAlone) {
+  SafeWarningBubbleDrawDescriptor warning;
+  warning.direction = 5;
+  EXPECT_EQ(EncodeSafeWarningResourceName(warning), kPrefix + R"({"mode":1}@5.SafeWarningBubble)");
+}
+
 TEST_F(ResourceNameEncoderTest, ForceIsAFieldOfItsOwn) {
   LightWaitBubbleDrawDescriptor wait;
   wait.is_force = true;

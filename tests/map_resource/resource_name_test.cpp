@@ -124,7 +124,8 @@ TEST_F(ResourceNameTest, BracesOfThePrefixDoNotCount) {
 }
 
 TEST_F(ResourceNameTest, NameWithoutBracesInOrderHoldsNoJsonObject) {
-  for (const char* const name : {"", "a", "{", "}", "}{", "kavrix://resource/.YawNoticeBubble"}) {
+  for (const char* const name :
+       {"", "a", "{", "}", "}{", "x{", "x}", "}x{", "kavrix://resource/.YawNoticeBubble"}) {
     EXPECT_EQ(FindJsonObject(name), "") << name;
   }
 }
