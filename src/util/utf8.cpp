@@ -8,20 +8,21 @@ namespace {
 
 struct LeadByte {
   std::size_t length;  // of the whole character; 0: no character begins so
-  unsigned char
-      second_low;  // the range of its second byte, narrower than that of the others where an overlong
-  unsigned char second_high;  // form, a surrogate or a number above U+10FFFF would begin
+  // The range of its second byte, narrower than that of the others where an overlong form, a surrogate or a
+  // number above U+10FFFF would begin.
+  unsigned char second_low = 0x80;
+  unsigned char second_high = 0xBF;
 };
 
 LeadByte LeadByteOf(unsigned char byte) {
-  if (byte < 0x80) return {1, 0, 0};
-  if (byte < 0xC2) return {0, 0, 0};
-  if (byte < 0xE0) return {2, 0x80, 0xBF};
+  if (byte < 0x80) return {1};
+  if (byte < 0xC2) return {0};
+  if (byte < 0xE0) return {2};
   if (byte < 0xF0) {
     return {3, static_cast<unsigned char>(byte == 0xE0 ? 0xA0 : 0x80),
             static_cast<unsigned char>(byte == 0xED ? 0x9F : 0xBF)};
   }
-  if (byte > 0xF4) return {0, 0, 0};
+  if (byte > 0xF4) return {0};
   return {4, static_cast<unsigned char>(byte == 0xF0 ? 0x90 : 0x80),
           static_cast<unsigned char>(byte == 0xF4 ? 0x8F : 0xBF)};
 }

@@ -10,7 +10,7 @@ namespace kavrix {
 // What stands at the beginning of a text: one character, or bytes that are none.
 struct Utf8Piece {
   std::size_t length;   // in bytes; 0 at the end of the text
-  char32_t code_point;  // valid pieces only
+  char32_t code_point;  // 0 for what is no character
   bool is_valid;
 };
 

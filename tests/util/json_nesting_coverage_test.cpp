@@ -1,13 +1,18 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "util/json_nesting.h"
 
 namespace kavrix::test {
 namespace {
 
-using JsonUtil::IsNestedDeeperThan;
+// Of a copy with no byte behind it, which the sanitizers watch.
+bool IsNestedDeeperThan(const std::string& text, std::size_t limit) {
+  const std::vector<char> bytes(text.begin(), text.end());
+  return JsonUtil::IsNestedDeeperThan({bytes.data(), bytes.size()}, limit);
+}
 
 TEST(JsonNestingTest, BlanksOfEveryKindStandBetweenBrackets) {
   for (const std::string blank : {"", " ", "\t", "\n", "\r", " \t\r\n"}) {
@@ -18,7 +23,17 @@ TEST(JsonNestingTest, BlanksOfEveryKindStandBetweenBrackets) {
   }
 }
 
-TEST(JsonNestingTest, TextThatEndsAtASlash) { EXPECT_FALSE(IsNestedDeeperThan("[[]/", 2)); }
+TEST(JsonNestingTest, LineCommentHoldsEveryCharacterButLineEnds) {
+  for (int c = 1; c < 256; ++c) {
+    const bool ends = c == '\n' || c == '\r';
+    EXPECT_EQ(IsNestedDeeperThan("//" + std::string(1, static_cast<char>(c)) + "[[[1]]]", 2), ends) << c;
+  }
+}
+
+TEST(JsonNestingTest, TextThatEndsAtASlash) {
+  EXPECT_FALSE(IsNestedDeeperThan("[[]/", 2));
+  EXPECT_TRUE(IsNestedDeeperThan("[[/", 2));  // counts as a value
+}
 
 TEST(JsonNestingTest, TextThatEndsInsideAText) {
   EXPECT_FALSE(IsNestedDeeperThan(R"(["[[[)", 2));

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <string>
+#include <vector>
 
 namespace kavrix::test {
 namespace {
@@ -51,6 +53,15 @@ TEST(SplitStringTest, FieldsKeepNulAndUtf8Bytes) {
 TEST(SplitStringTest, TrimmingDropsBlanksAtBothEndsOfAField) {
   EXPECT_THAT(SplitString(" a b \t_\n_c", "_", WhitespaceHandling::kTrim, SplitResult::kAll),
               ElementsAre("a b", "", "c"));
+}
+
+TEST(SplitStringTest, NoOtherCharacterIsTrimmed) {
+  const std::string blanks = " \t\n\v\f\r";
+  for (int c = 1; c < 256; ++c) {
+    const std::string text(1, static_cast<char>(c));
+    const std::string expected = blanks.find(text) == std::string::npos ? text : "";
+    EXPECT_THAT(SplitString(text, "", WhitespaceHandling::kTrim, SplitResult::kAll), ElementsAre(expected));
+  }
 }
 
 TEST(SplitStringTest, NonEmptyLeavesOutFieldsThatAreEmptyAfterTrimming) {
@@ -134,6 +145,18 @@ TEST(LeadingIntTest, KeepsTheLow32BitsOfALargerValue) {
 TEST(LeadingIntTest, ValueBeyond64BitsIsHeldAtTheEndOfThatRangeFirst) {
   EXPECT_EQ(LeadingInt("99999999999999999999"), -1);
   EXPECT_EQ(LeadingInt("-99999999999999999999"), 0);
+}
+
+// Texts of resource names are parts of these, with no NUL behind.
+TEST(IntegersTest, NothingBehindTheTextIsRead) {
+  EXPECT_EQ(LeadingInt(std::string_view("1234").substr(0, 2)), 12);
+  EXPECT_EQ(LeadingInt(std::string_view(" +34").substr(0, 3)), 3);
+  int value = 99;
+  EXPECT_TRUE(StringToInt(std::string_view("1234").substr(0, 2), &value));
+  EXPECT_EQ(value, 12);
+  const std::vector<char> plus = {'+'};  // no byte behind it, which the sanitizers watch
+  EXPECT_FALSE(StringToInt({plus.data(), 1}, &value));
+  EXPECT_EQ(LeadingInt({plus.data(), 1}), 0);
 }
 
 TEST(ToLowerAsciiTest, LowersAToZAlone) {

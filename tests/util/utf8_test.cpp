@@ -28,32 +28,37 @@ TEST(NextUtf8Test, ReadsTheFirstAndLastCharacterOfEachLength) {
   ExpectCharacter("\xF4\x8F\xBF\xBFx", 4, 0x10FFFF);
 }
 
+void ExpectNoCharacter(std::string_view text, std::size_t length) {
+  const Utf8Piece piece = NextUtf8(text);
+  EXPECT_FALSE(piece.is_valid) << text;
+  EXPECT_EQ(piece.length, length) << text;
+  EXPECT_EQ(piece.code_point, 0U) << text;
+}
+
 TEST(NextUtf8Test, EndOfTheTextIsAPieceOfNoBytes) {
   const Utf8Piece piece = NextUtf8("");
   EXPECT_TRUE(piece.is_valid);
   EXPECT_EQ(piece.length, 0U);
+  EXPECT_EQ(piece.code_point, 0U);
 }
 
 TEST(NextUtf8Test, BytesThatBeginNoCharacterArePiecesOfOneByte) {
   for (const char* const text :
        {"\x80", "\xBF", "\xC0\x80", "\xC1\xBF", "\xF5\x80\x80\x80", "\xFE", "\xFF"}) {
-    EXPECT_FALSE(NextUtf8(text).is_valid);
-    EXPECT_EQ(NextUtf8(text).length, 1U);
+    ExpectNoCharacter(text, 1);
   }
 }
 
 TEST(NextUtf8Test, CutCharacterIsOnePiece) {
   for (const std::string_view text : {"\xC2", "\xE4\xBD", "\xF0\x9F\x98", "\xF4\x8F"}) {
-    EXPECT_FALSE(NextUtf8(text).is_valid);
-    EXPECT_EQ(NextUtf8(text).length, text.size());
+    ExpectNoCharacter(text, text.size());
   }
 }
 
 TEST(NextUtf8Test, CharacterThatGoesOnWronglyEndsBeforeTheWrongByte) {
-  EXPECT_FALSE(NextUtf8("\xE4\xBDx").is_valid);
-  EXPECT_EQ(NextUtf8("\xE4\xBDx").length, 2U);
-  EXPECT_EQ(NextUtf8("\xE4x").length, 1U);
-  EXPECT_EQ(NextUtf8("\xF0\x9F\xC2\x80").length, 2U);
+  ExpectNoCharacter("\xE4\xBDx", 2);
+  ExpectNoCharacter("\xE4x", 1);
+  ExpectNoCharacter("\xF0\x9F\xC2\x80", 2);
 }
 
 TEST(ToValidUtf8Test, ValidTextIsUnchanged) {
