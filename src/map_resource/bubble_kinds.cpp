@@ -6,7 +6,7 @@ namespace kavrix {
 
 const BubbleKindInfo& InfoOf(BubbleKind kind) {
   // In the order of BubbleKind.
-  static constexpr std::array<const BubbleKindInfo*, kBubbleMarkers.size()> kInfos = {
+  static constexpr std::array kInfos = {
       &kTrafficBubbleInfo,
       &kRouteNameBubbleInfo,
       &kIndoorEntriesBubbleInfo,
@@ -30,6 +30,7 @@ const BubbleKindInfo& InfoOf(BubbleKind kind) {
       &kSafeWarningBubbleInfo,
       &kLaneChangeBubbleInfo,
   };
+  static_assert(kInfos.size() == kBubbleMarkers.size());
   return *kInfos[static_cast<std::size_t>(kind)];
 }
 
