@@ -37,7 +37,7 @@ std::string_view FindJsonObject(std::string_view resource_name) {
   if (resource_name.substr(0, prefix.size()) == prefix) resource_name.remove_prefix(prefix.size());
   const std::size_t begin = resource_name.find('{');
   const std::size_t end = resource_name.rfind('}');
-  if (end == std::string_view::npos || end < begin) return {};
+  if (end == std::string_view::npos || end < begin) return {};  // without a "{", `begin` is past every end
   return resource_name.substr(begin, end - begin + 1);
 }
 
