@@ -3,7 +3,8 @@
 //   name = prefix JSON-object "@" direction ".lightCountdownBubble"
 //   keys : is_force_, scene, mode, id, style, light_type, turn_arrow_type, time, text
 //
-// The direction is read also behind a JSON text that is broken. The closing record comes in any case.
+// The direction is read after a broken JSON text too, and after its failure record. The closing record comes
+// in any case.
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
@@ -38,11 +39,12 @@ struct LightCountdownNames : JsonAndDirectionNames<LightCountdownNames, LightCou
 void MapResourceTransform::ParseLightCountdownBubbleResourceName(const std::string& resource_name,
                                                                  std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto light = Publish<LightCountdownTimerDrawDescriptor>(out);
+  const auto log_failure = [this, function = __func__](std::string_view json) {
+    KAVRIX_LOG_IN(function, LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kFailure,
+                  "parse json failed: " << json);
+  };
   const auto parts = SplitFields<2>(StripPrefix(resource_name), '@');
-  if (parts.count == 2 && !LightCountdownNames::ReadParts(parts, *light)) {
-    KAVRIX_LOG(LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kFailure,
-               "parse json failed: " << parts.at[0]);
-  }
+  if (parts.count == 2) LightCountdownNames::ReadParts(parts, *light, log_failure);
   KAVRIX_LOG(LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kRoutine, *light);
 }
 

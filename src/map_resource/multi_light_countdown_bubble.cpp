@@ -6,8 +6,8 @@
 //          remain_time, text, total_time)
 //
 // Irregular: `type` comes from the context, before anything is read. A light without "turn_arrow_type" has
-// -1. Each element of the array gives a light, whatever its JSON type. The direction is read also behind a
-// JSON text that is broken; the tag is that of the single light.
+// -1. Each element of the array gives a light, whatever its JSON type. The direction is read after a broken
+// JSON text too, and after its failure record. The tag is that of the single light.
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
@@ -48,11 +48,12 @@ void MapResourceTransform::ParseMultiLightCountdownBubbleResourceName(
     const std::string& resource_name, std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto lights = Publish<MultiLightCountdownTimerDrawDescriptor>(out);
   lights->type = static_cast<std::int16_t>(context_->multi_light_type.load());
+  const auto log_failure = [this, function = __func__](std::string_view json) {
+    KAVRIX_LOG_IN(function, LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kFailure,
+                  "parse json failed: " << json);
+  };
   const auto parts = SplitFields<2>(StripPrefix(resource_name), '@');
-  if (parts.count == 2 && !MultiLightCountdownNames::ReadParts(parts, *lights)) {
-    KAVRIX_LOG(LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kFailure,
-               "parse json failed: " << parts.at[0]);
-  }
+  if (parts.count == 2) MultiLightCountdownNames::ReadParts(parts, *lights, log_failure);
   KAVRIX_LOG(LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kRoutine, *lights);
 }
 

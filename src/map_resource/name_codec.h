@@ -155,9 +155,15 @@ struct JsonAndDirectionNames {
     const auto parts = SplitFields<2>(StripPrefix(name), '@');
     return parts.count != 2 || Self::ReadParts(parts, carried);
   }
-  // Of two parts. False when the first is no JSON object.
   static bool ReadParts(const Fields<2>& parts, Carried& carried) {
+    return ReadParts(parts, carried, [](std::string_view) {});
+  }
+  // Of two parts. False when the first is no JSON object; `on_broken_json` gets it then, before the direction
+  // is read.
+  template <class Action>
+  static bool ReadParts(const Fields<2>& parts, Carried& carried, Action on_broken_json) {
     const bool parsed = ReadJsonObject(parts.at[0], [&](auto& keys) { Self::List(keys, carried); });
+    if (!parsed) on_broken_json(parts.at[0]);
     ReadDirectionTail(parts.at[1], carried);
     return parsed;
   }

@@ -96,9 +96,12 @@ constexpr const char* BaseName(const char* path) {
 // Writes one record from a member function of a class with a `context_` member. `tag` is an identifier that
 // begins with "LogTag"; the tag is its text less those 6 characters. `insertions` is what would stand between
 // a stream and the semicolon. The instance is loaded once for the filter and once for the record, so that a
-// change between the two is taken up at once. NOLINTBEGIN(bugprone-macro-parentheses): insertions cannot
-// stand in parentheses
-#define KAVRIX_LOG(tag, level, insertions)                                                                \
+// change between the two is taken up at once.
+#define KAVRIX_LOG(tag, level, insertions) KAVRIX_LOG_IN(__func__, tag, level, insertions)
+
+// The same from a lambda, whose own name is of no use: `function` is the __func__ of the function around it.
+// NOLINTBEGIN(bugprone-macro-parentheses): insertions cannot stand in parentheses
+#define KAVRIX_LOG_IN(function, tag, level, insertions)                                                   \
   do {                                                                                                    \
     namespace kavrix_logging = ::kavrix::logging;                                                         \
     if (kavrix_logging::Logger::TestLogLevelAndTag(kavrix_logging::kavrix_log_instance_id_.load(), level, \
@@ -106,7 +109,7 @@ constexpr const char* BaseName(const char* path) {
       constexpr const char* kavrix_file = kavrix_logging::BaseName(__FILE__);                             \
       const std::uint32_t kavrix_instance_id = kavrix_logging::kavrix_log_instance_id_.load();            \
       const std::string kavrix_tag(&#tag[6]);                                                             \
-      kavrix_logging::Record kavrix_record(level, __func__, __LINE__, kavrix_file, kavrix_instance_id,    \
+      kavrix_logging::Record kavrix_record(level, function, __LINE__, kavrix_file, kavrix_instance_id,    \
                                            kavrix_tag);                                                   \
       kavrix_record.Stream() << "[Kavrix][" << context_->context_name << "]" << std::fixed                \
                              << std::setprecision(6) << insertions;                                       \

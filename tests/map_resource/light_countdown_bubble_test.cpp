@@ -164,5 +164,10 @@ TEST_F(LightCountdownBubbleTest, NameShorterThanThePrefixThrowsWithOutAlreadyRep
   EXPECT_TRUE(records().empty());
 }
 
+TEST_F(LightCountdownBubbleTest, FailureIsLoggedBeforeTheDirectionIsRead) {
+  EXPECT_THAT(DirectionsAtRecords("[1,2]@7.lightCountdownBubble"),
+              ElementsAre(std::pair(0, 0), std::pair(1, 0), std::pair(0, 7)));
+}
+
 }  // namespace
 }  // namespace kavrix::test

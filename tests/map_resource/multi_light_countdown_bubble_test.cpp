@@ -203,5 +203,10 @@ TEST_F(MultiLightCountdownBubbleTest, NameShorterThanThePrefixThrowsWithTheTypeA
   EXPECT_TRUE(records().empty());
 }
 
+TEST_F(MultiLightCountdownBubbleTest, FailureIsLoggedBeforeTheDirectionIsRead) {
+  EXPECT_THAT(DirectionsAtRecords("[1,2]@7.multiLightCountdownBubble"),
+              ElementsAre(std::pair(0, 0), std::pair(1, 0), std::pair(0, 7)));
+}
+
 }  // namespace
 }  // namespace kavrix::test

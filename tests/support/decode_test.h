@@ -8,6 +8,7 @@
 #include <memory>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "map_resource/map_resource_manager.h"
@@ -48,6 +49,25 @@ class DecodeTest : public ::testing::Test {
     collector_.Clear();
     context_->snapshots = 0;
     transform_.GetBubbleDrawDescriptor(name, out_);
+  }
+
+  // The level of every record that decoding prefix + `rest` writes, with the direction that `out` has by
+  // then.
+  std::vector<std::pair<int, int>> DirectionsAtRecords(const std::string& rest) {
+    struct Sink : logging::LogSink {
+      explicit Sink(const std::shared_ptr<BubbleDrawDescriptor>& descriptor) : out(descriptor) {}
+      void Write(const logging::LogRecord& record) override {
+        seen.emplace_back(static_cast<int>(record.level), out->direction);
+      }
+      const std::shared_ptr<BubbleDrawDescriptor>& out;
+      std::vector<std::pair<int, int>> seen;
+    };
+    out_ = std::make_shared<BubbleDrawDescriptor>();
+    const auto sink = std::make_shared<Sink>(out_);
+    logging::SetLoggerInstance(logging::kavrix_log_instance_id_, {sink, logging::LogLevel::kRoutine, {}});
+    Decode(rest);
+    collector_.Install();
+    return sink->seen;
   }
 
   // What `out` holds, as the type that it must have.
