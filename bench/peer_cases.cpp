@@ -10,8 +10,8 @@
 #include "bench/key_lists.h"
 #include "bench/names.h"
 #include "bench/plain/plain_transform.h"
+#include "key_list/key_reader.h"
 #include "map_resource/map_resource_transform.h"
-#include "util/key_reader.h"
 
 #if defined(__GNUC__)
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"

@@ -6,10 +6,10 @@
 #include "bench/key_lists.h"
 #include "bench/names.h"
 #include "descriptors/descriptors.h"
+#include "key_list/key_reader.h"
 #include "map_resource/bubble_markers.h"
 #include "map_resource/map_resource_transform.h"
 #include "map_resource/resource_name.h"
-#include "util/key_reader.h"
 #include "util/tagged_log.h"
 
 namespace kavrix::bench {

@@ -16,9 +16,7 @@ std::string LastKey(const std::string& path) {
 
 std::vector<std::string> AllKeys() {
   KeyLister lister;
-  for (std::size_t i = 0; i < kBubbleMarkers.size(); ++i)
-    InfoOf(static_cast<BubbleKind>(i)).codec.list_keys(lister);
-  kMarkerNameInfo.codec.list_keys(lister);
+  for (const BubbleKindInfo* const info : AllKindInfos()) info->codec.list_keys(lister);
   std::set<std::string> keys = {"context_name", "multi_light_type", "bubble_layer", "name", "values"};
   for (const KeyInfo& info : lister.keys()) keys.insert(LastKey(info.key));
   BubbleLayerConfigContainer config;
@@ -27,8 +25,8 @@ std::vector<std::string> AllKeys() {
 }
 
 std::vector<std::string> AllMarkers() {
-  std::vector<std::string> markers(kBubbleMarkers.begin(), kBubbleMarkers.end());
-  markers.emplace_back(kMarkerNameTail);
+  std::vector<std::string> markers;
+  for (const BubbleKindInfo* const info : AllKindInfos()) markers.emplace_back(info->marker);
   return markers;
 }
 

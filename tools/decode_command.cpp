@@ -5,13 +5,13 @@
 #include <optional>
 #include <utility>
 
+#include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_manager.h"
 #include "tools/bulk.h"
 #include "tools/context.h"
 #include "tools/decoding.h"
 #include "tools/format_option.h"
 #include "tools/json_output.h"
-#include "tools/kind_names.h"
 #include "tools/text_output.h"
 
 namespace kavrix::tools {
@@ -29,11 +29,12 @@ struct DecodeOptions {
 };
 
 // {"kind": ..., "fields": ...}, as "encode" reads it. Throws for a name that has no such form.
-std::string FieldsLine(const std::string& name, bool is_marker_name) {
+std::string FieldsLine(const std::string& name, EntryPoint entry_point) {
   const std::optional<BubbleKind> kind = FindBubbleKind(name);
+  const bool is_marker_name = entry_point == EntryPoint::kMarker;
   if (!is_marker_name && !kind) throw std::runtime_error("the name holds no marker");
   const BubbleKindInfo& info = is_marker_name ? kMarkerNameInfo : InfoOf(*kind);
-  const std::string kind_name(is_marker_name ? MarkerNamesKind() : MarkerOf(*kind).substr(1));
+  const std::string kind_name(info.Name());
   std::optional<std::string> fields;
   try {
     fields = info.codec.read_fields(name);
@@ -48,7 +49,8 @@ int Run(const DecodeOptions& options) {
   if (options.prefix) MapResourceManager::kavrix_resource_prefix = options.prefix->c_str();
   const auto context = options.config_path ? MakeContext(*options.config_path, options.context_name)
                                            : MakeDefaultContext(options.context_name);
-  Decoder decoder(context, options.marker ? NameType::kMarker : NameType::kBubble);
+  const EntryPoint entry_point = options.marker ? EntryPoint::kMarker : EntryPoint::kBubble;
+  Decoder decoder(context, entry_point);
 
   const bool as_text = options.format == "text";
   const char* const no_colour = std::getenv("NO_COLOR");
@@ -56,7 +58,7 @@ int Run(const DecodeOptions& options) {
   const TextOptions text_options = {options.all_members, colour};
 
   const auto decode = [&](std::string name) -> NameResult {
-    if (options.fields) return ResultOf([&] { return FieldsLine(name, options.marker); });
+    if (options.fields) return ResultOf([&] { return FieldsLine(name, entry_point); });
     const Decoded decoded = decoder.Decode(std::move(name));
     return {as_text ? ToText(decoded, text_options) : ToJsonLine(decoded), decoded.failed, ""};
   };

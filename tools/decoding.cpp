@@ -27,8 +27,10 @@ bool TellsOfFailedParse(const CapturedRecord& record, const std::string& head) {
 
 }  // namespace
 
-Decoder::Decoder(const std::shared_ptr<KavrixContext>& context, NameType name_type)
-    : transform_(context), record_head_("[Kavrix][" + context->context_name + "]"), name_type_(name_type) {
+Decoder::Decoder(const std::shared_ptr<KavrixContext>& context, EntryPoint entry_point)
+    : transform_(context),
+      record_head_("[Kavrix][" + context->context_name + "]"),
+      entry_point_(entry_point) {
   logging::SetLoggerInstance(logging::kavrix_log_instance_id_, {std::make_shared<CapturingSink>(), {}, {}});
 }
 
@@ -37,7 +39,7 @@ Decoded Decoder::Decode(std::string name) {
   decoded.name = std::move(name);
   captured_records = &decoded.records;
   try {
-    if (name_type_ == NameType::kMarker) {
+    if (entry_point_ == EntryPoint::kMarker) {
       transform_.GetMarkerDrawDescriptor(decoded.name, decoded.descriptor);
     } else {
       decoded.kind = FindBubbleKind(decoded.name);

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "map_resource/bubble_markers.h"
+#include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
 
 namespace kavrix::tools {
@@ -28,19 +28,17 @@ struct Decoded {
   bool failed = false;  // no marker, a record of a failed parse, or an exception
 };
 
-enum class NameType { kBubble, kMarker };
-
 // Decodes names as a client would, with every log record captured. Installs itself as the process's log sink.
 class Decoder {
  public:
-  Decoder(const std::shared_ptr<KavrixContext>& context, NameType name_type);
+  Decoder(const std::shared_ptr<KavrixContext>& context, EntryPoint entry_point);
 
   Decoded Decode(std::string name);
 
  private:
   MapResourceTransform transform_;
   std::string record_head_;
-  NameType name_type_;
+  EntryPoint entry_point_;
 };
 
 // The configuration record that a bubble's style came from, by member name; empty when there is none. Found

@@ -4,9 +4,9 @@
 #include <optional>
 #include <stdexcept>
 
+#include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_manager.h"
 #include "tools/bulk.h"
-#include "tools/kind_names.h"
 #include "util/json_util.h"
 
 namespace kavrix::tools {
@@ -27,7 +27,7 @@ Json::Value ParseJson(const std::string& text) {
 }
 
 std::string EncodeKind(const std::string& kind_name, const Json::Value& fields) {
-  const BubbleKindInfo* const info = FindKind(kind_name);
+  const BubbleKindInfo* const info = FindKindInfo(kind_name);
   if (info == nullptr) {
     throw std::runtime_error("no kind is called \"" + kind_name + "\"; kavrix-resource kinds lists them");
   }

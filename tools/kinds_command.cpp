@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include "map_resource/bubble_kinds.h"
@@ -20,20 +21,19 @@ namespace {
 
 // One kind with everything that is told about it.
 struct Kind {
-  std::string marker;
   const BubbleKindInfo& info;
   std::vector<KeyInfo> keys;
   std::string sample;
-  NameType name_type;
 
-  std::string name() const { return marker.substr(1); }
+  bool IsCalled(std::string_view name) const { return info.Name() == name || info.marker == name; }
 };
 
-std::string FirstSampleOf(BubbleKind kind) {
-  std::string_view names = kSampleNames;
+std::string FirstSampleOf(const BubbleKindInfo& info) {
+  std::string_view names = info.entry_point == EntryPoint::kMarker ? kSampleMarkerNames : kSampleNames;
   while (!names.empty()) {
     const std::string_view name = names.substr(0, names.find('\n'));
-    if (FindBubbleKind(name) == kind) return std::string(name);
+    const std::optional<BubbleKind> kind = FindBubbleKind(name);
+    if ((kind ? &InfoOf(*kind) : &kMarkerNameInfo) == &info) return std::string(name);
     names.remove_prefix(std::min(name.size() + 1, names.size()));
   }
   return "";
@@ -47,15 +47,9 @@ std::vector<KeyInfo> KeysOf(const BubbleKindInfo& info) {
 
 std::vector<Kind> AllKinds() {
   std::vector<Kind> kinds;
-  for (std::size_t i = 0; i < kBubbleMarkers.size(); ++i) {
-    const auto kind = static_cast<BubbleKind>(i);
-    const BubbleKindInfo& info = InfoOf(kind);
-    kinds.push_back(
-        {std::string(MarkerOf(kind)), info, KeysOf(info), FirstSampleOf(kind), NameType::kBubble});
+  for (const BubbleKindInfo* const info : AllKindInfos()) {
+    kinds.push_back({*info, KeysOf(*info), FirstSampleOf(*info)});
   }
-  const std::string_view marker_samples = kSampleMarkerNames;
-  kinds.push_back({std::string(kMarkerNameTail), kMarkerNameInfo, KeysOf(kMarkerNameInfo),
-                   std::string(marker_samples.substr(0, marker_samples.find('\n'))), NameType::kMarker});
   return kinds;
 }
 
@@ -78,7 +72,7 @@ std::string KindCodeText(const BubbleKindInfo& info) {
 std::string KeyText(const KeyInfo& key) { return key.rule.empty() ? key.type : key.type + ", " + key.rule; }
 
 std::string ToText(const Kind& kind) {
-  std::string text = kind.marker + "\n";
+  std::string text = std::string(kind.info.marker) + "\n";
   const auto line = [&](std::string_view label, std::string_view value) {
     text += fmt::format("  {:<10}  {}\n", label, value);
   };
@@ -100,9 +94,9 @@ std::string ToJson(const Kind& kind) {
   JsonWriter json;
   json.BeginObject();
   json.Key("kind");
-  json.Text(kind.name());
+  json.Text(kind.info.Name());
   json.Key("marker");
-  json.Text(kind.marker);
+  json.Text(kind.info.marker);
   json.Key("kind_code");
   kind.info.kind_code ? json.Integer(*kind.info.kind_code) : json.Null();
   json.Key("descriptor_type");
@@ -132,16 +126,16 @@ std::string ToJson(const Kind& kind) {
 
 std::string ToMarkdown(const Kind& kind) {
   std::string text =
-      fmt::format("## `{}`\n\nname = prefix {} `{}`\n\n", kind.marker, kind.info.grammar, kind.marker);
+      fmt::format("## `{0}`\n\nname = prefix {1} `{0}`\n\n", kind.info.marker, kind.info.grammar);
   text += fmt::format("- descriptor: `{}`, kind code: {}\n- payload: {}\n\n", kind.info.descriptor_type,
                       KindCodeText(kind.info), WayText(kind.info.way));
   text += "| carries | type |\n| --- | --- |\n";
   for (const KeyInfo& key : kind.keys) text += fmt::format("| `{}` | {} |\n", key.key, KeyText(key));
-  Decoder decoder(MakeDefaultContext(), kind.name_type);
+  Decoder decoder(MakeDefaultContext(), kind.info.entry_point);
   const std::string fields = kind.info.codec.read_fields(kind.sample).value_or("{}");
   text +=
       fmt::format("\nPlacing, for `kavrix-resource encode`:\n\n```\n{{\"kind\":\"{}\",\"fields\":{}}}\n```\n",
-                  kind.name(), fields);
+                  kind.info.Name(), fields);
   text += fmt::format("\nDecoding:\n\n```\n{}```\n\n", tools::ToText(decoder.Decode(kind.sample), {}));
   return text;
 }
@@ -155,13 +149,13 @@ int Run(const KindsOptions& options) {
   Output output(false);
   const std::vector<Kind> kinds = AllKinds();
   for (const std::string& name : options.names) {
-    const auto is_named = [&](const Kind& kind) { return kind.name() == name || kind.marker == name; };
-    if (std::none_of(kinds.begin(), kinds.end(), is_named)) {
+    const auto is_called_so = [&](const Kind& kind) { return kind.IsCalled(name); };
+    if (std::none_of(kinds.begin(), kinds.end(), is_called_so)) {
       throw CLI::ValidationError("no kind is called \"" + name + "\"; \"kinds\" alone lists them all");
     }
   }
   for (const Kind& kind : kinds) {
-    const auto names_it = [&](const std::string& name) { return kind.name() == name || kind.marker == name; };
+    const auto names_it = [&](const std::string& name) { return kind.IsCalled(name); };
     if (!options.names.empty() && std::none_of(options.names.begin(), options.names.end(), names_it))
       continue;
     if (options.format == "json") output.Write(ToJson(kind));

@@ -13,8 +13,10 @@ namespace kavrix {
 class MultiLightCountdownTimerDrawDescriptor : public BubbleDrawDescriptor {
  public:
   struct OneLightCountdownTimerDrawDescriptor {
+    static constexpr std::int32_t kNoTurnArrow = -1;  // what a light without the key has
+
     std::int32_t light_type = 0;
-    std::int32_t turn_arrow_type = -1;  // what a light without the key has: no arrow
+    std::int32_t turn_arrow_type = kNoTurnArrow;
     std::int32_t remain_time = 0;
     std::string text;
     std::int32_t total_time = 0;

@@ -21,6 +21,9 @@ class TrafficDrawDescriptor : public BubbleDrawDescriptor {
     visitor.Integer("style_word_2", style_word_2);
   }
 
+  // The "nav_mode" of a name that does not carry one. It selects the style record and is not stored.
+  static constexpr int kDefaultNavMode = 1;
+
   std::string light_text;
   std::int32_t extra_type = 0;
   float style_float_1 = 0;

@@ -1,37 +1,23 @@
 #include "map_resource/bubble_kinds.h"
 
-#include <array>
-
 namespace kavrix {
 
-const BubbleKindInfo& InfoOf(BubbleKind kind) {
-  // In the order of BubbleKind.
-  static constexpr std::array kInfos = {
-      &kTrafficBubbleInfo,
-      &kRouteNameBubbleInfo,
-      &kIndoorEntriesBubbleInfo,
-      &kCompanionBubbleInfo,
-      &kCameraBubbleInfo,
-      &kEtaBubbleInfo,
-      &kRouteLabelBubbleInfo,
-      &kRouteExplainBubbleInfo,
-      &kMarkerBubbleInfo,
-      &kLightCountdownBubbleInfo,
-      &kMultiLightCountdownBubbleInfo,
-      &kViaCircleBubbleInfo,
-      &kLightWaitBubbleInfo,
-      &kTurnBubbleInfo,
-      &kHdLongSolidBubbleInfo,
-      &kUndergroundParkBubbleInfo,
-      &kForceDotBubbleInfo,
-      &kForcePollBubbleInfo,
-      &kYawNoticeBubbleInfo,
-      &kRouteAccidentBubbleInfo,
-      &kSafeWarningBubbleInfo,
-      &kLaneChangeBubbleInfo,
+const std::array<const BubbleKindInfo*, kBubbleKinds.size() + 1>& AllKindInfos() {
+  static constexpr std::array<const BubbleKindInfo*, kBubbleKinds.size() + 1> kInfos = {
+#define KAVRIX_BUBBLE_KIND(Kind, stem, marker, Descriptor, Parse, Encode) &k##Kind##BubbleInfo,
+#include "map_resource/bubble_kinds.def"
+      &kMarkerNameInfo,
   };
-  static_assert(kInfos.size() == kBubbleMarkers.size());
-  return *kInfos[static_cast<std::size_t>(kind)];
+  return kInfos;
+}
+
+const BubbleKindInfo& InfoOf(BubbleKind kind) { return *AllKindInfos()[static_cast<std::size_t>(kind)]; }
+
+const BubbleKindInfo* FindKindInfo(std::string_view name) {
+  for (const BubbleKindInfo* const info : AllKindInfos()) {
+    if (info->Name() == name) return info;
+  }
+  return nullptr;
 }
 
 }  // namespace kavrix

@@ -8,65 +8,27 @@
 
 namespace kavrix {
 
-// The bubble kinds in the order of recognition: of several markers in one name the first of this list wins,
-// wherever it stands.
+// One value for each line of the list.
 enum class BubbleKind {
-  kTraffic,
-  kRouteName,
-  kIndoorEntries,
-  kCompanion,
-  kCamera,
-  kEta,
-  kRouteLabel,
-  kRouteExplain,
-  kMarker,
-  kLightCountdown,
-  kMultiLightCountdown,
-  kViaCircle,
-  kLightWait,
-  kTurn,
-  kHdLongSolid,
-  kUndergroundPark,
-  kForceDot,
-  kForcePoll,
-  kYawNotice,
-  kRouteAccident,
-  kSafeWarning,
-  kLaneChange,
+#define KAVRIX_BUBBLE_KIND(Kind, stem, marker, Descriptor, Parse, Encode) k##Kind,
+#include "map_resource/bubble_kinds.def"
 };
 
-// The marker of each kind, in the order of BubbleKind. Markers are case-sensitive; the last seven begin with
-// a capital.
-inline constexpr std::array<std::string_view, 22> kBubbleMarkers = {
-    ".trafficBubble",
-    ".nameBubble",
-    ".inDoorEntriesBubble",
-    ".companionBubble",
-    ".cameraBubble",
-    ".etaBubble",
-    ".labelBubble",
-    ".routeExplainBubble",
-    ".markerBubble",
-    ".lightCountdownBubble",
-    ".multiLightCountdownBubble",
-    ".viaCircleBubble",
-    ".lightWaitBubble",
-    ".turnBubble",
-    ".hdLongSolidBubble",
-    ".UndergroundParkBubble",
-    ".ForceDotBubble",
-    ".ForcePollBubble",
-    ".YawNoticeBubble",
-    ".RouteAccidentBubble",
-    ".SafeWarningBubble",
-    ".LaneChangeBubble",
+// All kinds, and the marker of each, in the order of recognition.
+inline constexpr std::array kBubbleKinds = {
+#define KAVRIX_BUBBLE_KIND(Kind, stem, marker, Descriptor, Parse, Encode) BubbleKind::k##Kind,
+#include "map_resource/bubble_kinds.def"
+};
+inline constexpr std::array<std::string_view, kBubbleKinds.size()> kBubbleMarkers = {
+#define KAVRIX_BUBBLE_KIND(Kind, stem, marker, Descriptor, Parse, Encode) marker,
+#include "map_resource/bubble_kinds.def"
 };
 
 constexpr std::string_view MarkerOf(BubbleKind kind) {
   return kBubbleMarkers[static_cast<std::size_t>(kind)];
 }
 
-// What stands behind the payload of a marker name, which has its own entry point.
+// What follows the payload of a marker name, which has its own entry point.
 inline constexpr std::string_view kMarkerNameTail = ".marker";
 
 // The kind whose marker occurs in the name, the first in order when several do. One pass over the name.

@@ -19,11 +19,11 @@ using logging::LogLevel;
 
 namespace {
 
-struct CameraNames : JsonNames<CameraNames, CameraDrawDescriptor> {
+struct CameraFormat : JsonFormat<CameraFormat, CameraDrawDescriptor> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kCamera);
   template <class Keys, class Camera>
   static void List(Keys& keys, Camera& camera) {
-    keys.Records("cameras", camera.cameras, [](auto& item_keys, auto& item) {
+    keys.Objects("cameras", camera.cameras, [](auto& item_keys, auto& item) {
       item_keys.Integer("type", item.type);
       item_keys.Integer("speed", item.speed);
     });
@@ -43,8 +43,8 @@ struct CameraNames : JsonNames<CameraNames, CameraDrawDescriptor> {
 void MapResourceTransform::ParseCameraBubbleResourceName(const std::string& resource_name,
                                                          std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto camera = Publish<CameraDrawDescriptor>(out);
-  const std::string_view payload = StripPrefixAndMarker(resource_name, CameraNames::kMarker);
-  if (!ReadJsonObject(payload, [&](auto& keys) { CameraNames::List(keys, *camera); })) {
+  const std::string_view payload = CameraFormat::PayloadOf(resource_name);
+  if (!CameraFormat::Read(payload, *camera)) {
     KAVRIX_LOG(LogTagKavrixMapLayerMgr_CameraLayer, LogLevel::kFailure, "parse json failed: " << payload);
     return;
   }
@@ -58,11 +58,10 @@ void MapResourceTransform::ParseCameraBubbleResourceName(const std::string& reso
 }
 
 std::string EncodeCameraBubbleResourceName(const CameraDrawDescriptor& camera) {
-  return EncodeName<CameraNames>(camera);
+  return EncodeName<CameraFormat>(camera);
 }
 
-const BubbleKindInfo kCameraBubbleInfo = {"CameraDrawDescriptor", std::nullopt,
-                                          PayloadWay::kPrefixAndMarkerStripped, "JSON object",
-                                          kCodec<CameraNames>};
+constexpr BubbleKindInfo kCameraBubbleInfo = MakeInfo<CameraFormat>(
+    BubbleKind::kCamera, std::nullopt, PayloadWay::kPrefixAndMarkerStripped, "JSON object");
 
 }  // namespace kavrix

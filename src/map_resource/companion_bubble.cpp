@@ -20,7 +20,7 @@ using logging::LogLevel;
 
 namespace {
 
-struct CompanionNames : JsonAndDirectionNames<CompanionNames, CompanionBubbleDrawDescriptor> {
+struct CompanionFormat : JsonAndDirectionFormat<CompanionFormat, CompanionBubbleDrawDescriptor> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kCompanion);
   template <class Keys, class Companion>
   static void List(Keys& keys, Companion& companion) {
@@ -35,7 +35,9 @@ struct CompanionNames : JsonAndDirectionNames<CompanionNames, CompanionBubbleDra
     keys.Integer("scene", companion.scene);
     keys.Integer("scene_", companion.BubbleDrawDescriptor::scene);
   }
-  static bool ReadParts(const Fields<2>& parts, CompanionBubbleDrawDescriptor& companion) {
+  static bool Read(std::string_view payload, CompanionBubbleDrawDescriptor& companion) {
+    const auto parts = SplitFields<2>(payload, '@');
+    if (parts.count != 2) return true;
     if (!ReadJsonObject(parts.at[0], [&](auto& keys) { List(keys, companion); })) return false;
     ReadDirectionTail(parts.at[1], companion);
     return true;
@@ -52,8 +54,7 @@ std::size_t StyleWordNumber(const CompanionBubbleDrawDescriptor& companion) {
 void MapResourceTransform::ParseCompanionBubbleResourceName(const std::string& resource_name,
                                                             std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto companion = Publish<CompanionBubbleDrawDescriptor>(out);
-  const auto parts = SplitFields<2>(StripPrefix(resource_name), '@');
-  if (parts.count == 2 && !CompanionNames::ReadParts(parts, *companion)) {
+  if (!CompanionFormat::Read(CompanionFormat::PayloadOf(resource_name), *companion)) {
     KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure,
                "parse json failed: " << resource_name);
   }
@@ -67,11 +68,10 @@ void MapResourceTransform::ParseCompanionBubbleResourceName(const std::string& r
 }
 
 std::string EncodeCompanionBubbleResourceName(const CompanionBubbleDrawDescriptor& companion) {
-  return EncodeName<CompanionNames>(companion);
+  return EncodeName<CompanionFormat>(companion);
 }
 
-const BubbleKindInfo kCompanionBubbleInfo = {"CompanionBubbleDrawDescriptor", std::nullopt,
-                                             PayloadWay::kPrefixStripped, "JSON object \"@\" direction",
-                                             kCodec<CompanionNames>};
+constexpr BubbleKindInfo kCompanionBubbleInfo = MakeInfo<CompanionFormat>(
+    BubbleKind::kCompanion, std::nullopt, PayloadWay::kPrefixStripped, "JSON object \"@\" direction");
 
 }  // namespace kavrix

@@ -32,7 +32,7 @@ std::string WithSubText(const DestNameEtaDrawDescriptor& eta) {
   return needs_bar ? eta.content + "|" + eta.sub_text : eta.content;
 }
 
-struct EtaNames : FieldNames<EtaNames, DestNameEtaDrawDescriptor, 4> {
+struct EtaFormat : FieldsFormat<EtaFormat, DestNameEtaDrawDescriptor, 4> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kEta);
   template <class Fields, class Eta>
   static void List(Fields& fields, Eta& eta) {
@@ -46,23 +46,26 @@ struct EtaNames : FieldNames<EtaNames, DestNameEtaDrawDescriptor, 4> {
     keys.Text("sub_text", eta.sub_text);
     keys.Integer("direction", eta.direction);
   }
-  static bool Read(const std::string& name, DestNameEtaDrawDescriptor& eta) {
-    FieldNames::Read(name, eta);
+  static void Read(std::string_view payload, DestNameEtaDrawDescriptor& eta) {
+    FieldsFormat::Read(payload, eta);
     SplitSubText(eta);
-    return true;
-  }
-  static Payload Write(const DestNameEtaDrawDescriptor& eta) {
-    DestNameEtaDrawDescriptor joined = eta;
-    joined.content = WithSubText(eta);
-    Payload payload = FieldNames::Write(joined);
-    payload.bad = FindBadText("content", eta.content, kMarker);
-    if (!payload.bad) payload.bad = FindBadText("sub_text", eta.sub_text, kMarker);
-    const std::size_t bar = eta.sub_text.rfind('|');
-    if (!payload.bad && bar != std::string::npos)
-      payload.bad = BadText{"sub_text", eta.sub_text, bar, "ends the content"};
-    return payload;
   }
 };
+
+Payload PayloadFor(const EtaFormat&, const KeyWriter&, const DestNameEtaDrawDescriptor& eta) {
+  DestNameEtaDrawDescriptor joined = eta;
+  joined.content = WithSubText(eta);
+  KeyWriter fields(KeyWriter::Escapes::kForNames);
+  EtaFormat::List(fields, joined);
+  Payload payload =
+      WithDirection(FieldsPayload(fields, EtaFormat::kFieldCount, EtaFormat::kMarker), eta.direction);
+  payload.bad = FindBadText("content", eta.content, EtaFormat::kMarker);
+  if (!payload.bad) payload.bad = FindBadText("sub_text", eta.sub_text, EtaFormat::kMarker);
+  const std::size_t bar = eta.sub_text.rfind('|');
+  if (!payload.bad && bar != std::string::npos)
+    payload.bad = BadText{"sub_text", eta.sub_text, bar, "ends the content"};
+  return payload;
+}
 
 void ApplyEtaStyle(BubbleStyleRecord<12>& style, DestNameEtaDrawDescriptor& eta) {
   eta.style_name = std::move(style.name);
@@ -80,7 +83,7 @@ void MapResourceTransform::ParseEtaBubbleResourceName(const std::string& resourc
                                                       std::shared_ptr<BubbleDrawDescriptor>& out) {
   KAVRIX_LOG(LogTagKavrixMapLayerMgr_DestNameEta, LogLevel::kRoutine, "resource_name:" << resource_name);
   const auto eta = Publish<DestNameEtaDrawDescriptor>(out);
-  EtaNames::Read(resource_name, *eta);
+  EtaFormat::Read(EtaFormat::PayloadOf(resource_name), *eta);
 
   BubbleLayerConfigContainer config = context_->GetBubbleLayerConfigInLock();
   ApplyEtaStyle(eta->scene == 0 ? config.eta_style : config.eta_scene_style, *eta);
@@ -88,11 +91,11 @@ void MapResourceTransform::ParseEtaBubbleResourceName(const std::string& resourc
 }
 
 std::string EncodeEtaBubbleResourceName(const DestNameEtaDrawDescriptor& eta) {
-  return EncodeName<EtaNames>(eta);
+  return EncodeName<EtaFormat>(eta);
 }
 
-const BubbleKindInfo kEtaBubbleInfo = {
-    "DestNameEtaDrawDescriptor", std::nullopt, PayloadWay::kPrefixStripped,
-    "content [\"|\" sub_text] \"_\" mode \"_\" unread \"_\" scene \"@\" direction", kCodec<EtaNames>};
+constexpr BubbleKindInfo kEtaBubbleInfo =
+    MakeInfo<EtaFormat>(BubbleKind::kEta, std::nullopt, PayloadWay::kPrefixStripped,
+                        "content [\"|\" sub_text] \"_\" mode \"_\" unread \"_\" scene \"@\" direction");
 
 }  // namespace kavrix

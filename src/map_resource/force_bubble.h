@@ -8,7 +8,7 @@ namespace kavrix {
 
 // What names of the force dot and the force poll carry.
 template <class Self>
-struct ForceBubbleNames : JsonNames<Self, BubbleDrawDescriptor> {
+struct ForceBubbleFormat : JsonFormat<Self, BubbleDrawDescriptor> {
   template <class Keys, class Descriptor>
   static void List(Keys& keys, Descriptor& bubble) {
     keys.TrueWhenZero("mode", bubble.mode_flag);

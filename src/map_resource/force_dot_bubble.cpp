@@ -21,7 +21,7 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 27;
 
-struct ForceDotNames : ForceBubbleNames<ForceDotNames> {
+struct ForceDotFormat : ForceBubbleFormat<ForceDotFormat> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kForceDot);
 };
 
@@ -31,25 +31,23 @@ void MapResourceTransform::ParseForceDotBubbleResourceName(const std::string& re
                                                            std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto bubble = Publish<BubbleDrawDescriptor>(out);
   bubble->bubble_kind = kKindCode;
-  const std::string_view payload = StripPrefixAndMarker(resource_name, ForceDotNames::kMarker);
-  Json::Value root;
-  if (!JsonUtil::ParseObject(payload, root)) {
+  const std::string_view payload = ForceDotFormat::PayloadOf(resource_name);
+  const auto log_payload = [&, function = __func__] {
+    KAVRIX_LOG_IN(function, LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, payload);
+  };
+  if (!ForceDotFormat::Read(payload, *bubble, log_payload)) {
     KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, "parse json failed: " << payload);
     return;
   }
-  KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, payload);
-  JsonKeyReader keys(root);
-  ForceDotNames::List(keys, *bubble);
   bubble->content = "ForceDot";
   bubble->is_force = true;
 }
 
 std::string EncodeForceDotBubbleResourceName(const BubbleDrawDescriptor& bubble) {
-  return EncodeName<ForceDotNames>(bubble);
+  return EncodeName<ForceDotFormat>(bubble);
 }
 
-const BubbleKindInfo kForceDotBubbleInfo = {"BubbleDrawDescriptor", kKindCode,
-                                            PayloadWay::kPrefixAndMarkerStripped, "JSON object",
-                                            kCodec<ForceDotNames>};
+constexpr BubbleKindInfo kForceDotBubbleInfo = MakeInfo<ForceDotFormat>(
+    BubbleKind::kForceDot, kKindCode, PayloadWay::kPrefixAndMarkerStripped, "JSON object");
 
 }  // namespace kavrix

@@ -21,7 +21,7 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 28;
 
-struct ForcePollNames : ForceBubbleNames<ForcePollNames> {
+struct ForcePollFormat : ForceBubbleFormat<ForcePollFormat> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kForcePoll);
 };
 
@@ -31,25 +31,23 @@ void MapResourceTransform::ParseForcePollBubbleResourceName(const std::string& r
                                                             std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto bubble = Publish<BubbleDrawDescriptor>(out);
   bubble->bubble_kind = kKindCode;
-  const std::string_view payload = StripPrefixAndMarker(resource_name, ForcePollNames::kMarker);
-  Json::Value root;
-  if (!JsonUtil::ParseObject(payload, root)) {
+  const std::string_view payload = ForcePollFormat::PayloadOf(resource_name);
+  const auto log_payload = [&, function = __func__] {
+    KAVRIX_LOG_IN(function, LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, payload);
+  };
+  if (!ForcePollFormat::Read(payload, *bubble, log_payload)) {
     KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, "parse json failed: " << payload);
     return;
   }
-  KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, payload);
-  JsonKeyReader keys(root);
-  ForcePollNames::List(keys, *bubble);
   bubble->content = "ForcePoll";
   bubble->is_force = true;
 }
 
 std::string EncodeForcePollBubbleResourceName(const BubbleDrawDescriptor& bubble) {
-  return EncodeName<ForcePollNames>(bubble);
+  return EncodeName<ForcePollFormat>(bubble);
 }
 
-const BubbleKindInfo kForcePollBubbleInfo = {"BubbleDrawDescriptor", kKindCode,
-                                             PayloadWay::kPrefixAndMarkerStripped, "JSON object",
-                                             kCodec<ForcePollNames>};
+constexpr BubbleKindInfo kForcePollBubbleInfo = MakeInfo<ForcePollFormat>(
+    BubbleKind::kForcePoll, kKindCode, PayloadWay::kPrefixAndMarkerStripped, "JSON object");
 
 }  // namespace kavrix

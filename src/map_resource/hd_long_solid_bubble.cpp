@@ -2,7 +2,7 @@
 //
 //   name = prefix content "_" mode { "_" force } "@" direction ".hdLongSolidBubble"
 //
-// Irregular: two fields are enough, and a third sets the force flag whatever it holds; more are passed over.
+// Irregular: two fields are enough, and a third sets the force flag whatever it holds; more are ignored.
 // The style is taken before the payload is looked at. Head and tail are read independently; nothing is ever a
 // failure.
 
@@ -20,7 +20,7 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 12;
 
-struct HdLongSolidNames : FieldNames<HdLongSolidNames, HDLongSolidBubbleDrawDescriptor, 3> {
+struct HdLongSolidFormat : FieldsFormat<HdLongSolidFormat, HDLongSolidBubbleDrawDescriptor, 3> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kHdLongSolid);
   template <class Fields, class Descriptor>
   static void List(Fields& fields, Descriptor& bubble) {
@@ -39,13 +39,14 @@ struct HdLongSolidNames : FieldNames<HdLongSolidNames, HDLongSolidBubbleDrawDesc
     List(reader, bubble);
     if (fields.count > 2) bubble.is_force = true;
   }
-  static Payload Write(const HDLongSolidBubbleDrawDescriptor& bubble) {
-    FieldWriter fields(bubble.is_force ? 3 : 2);
-    List(fields, bubble);
-    if (bubble.is_force) fields.Text(2, "force", "1");
-    return WithDirection(FieldsPayload(fields, kMarker), bubble.direction);
-  }
 };
+
+Payload PayloadFor(const HdLongSolidFormat&, const KeyWriter& written,
+                   const HDLongSolidBubbleDrawDescriptor& bubble) {
+  Payload payload = FieldsPayload(written, 2, HdLongSolidFormat::kMarker);
+  if (bubble.is_force) payload.text += "_1";
+  return WithDirection(std::move(payload), bubble.direction);
+}
 
 }  // namespace
 
@@ -56,16 +57,16 @@ void MapResourceTransform::ParseHdLongSolidBubbleResourceName(const std::string&
   BubbleLayerConfigContainer config = context_->GetBubbleLayerConfigInLock();
   ApplyCommonStyle(std::move(config.hd_long_solid_style), *bubble);
 
-  HdLongSolidNames::Read(resource_name, *bubble);
+  HdLongSolidFormat::Read(HdLongSolidFormat::PayloadOf(resource_name), *bubble);
   KAVRIX_LOG(LogTagKavrixMapLayerMgr_LongSolid, LogLevel::kRoutine, *out);
 }
 
 std::string EncodeHdLongSolidBubbleResourceName(const HDLongSolidBubbleDrawDescriptor& bubble) {
-  return EncodeName<HdLongSolidNames>(bubble);
+  return EncodeName<HdLongSolidFormat>(bubble);
 }
 
-const BubbleKindInfo kHdLongSolidBubbleInfo = {
-    "HDLongSolidBubbleDrawDescriptor", kKindCode, PayloadWay::kPrefixStripped,
-    "content \"_\" mode { \"_\" force } \"@\" direction", kCodec<HdLongSolidNames>};
+constexpr BubbleKindInfo kHdLongSolidBubbleInfo =
+    MakeInfo<HdLongSolidFormat>(BubbleKind::kHdLongSolid, kKindCode, PayloadWay::kPrefixStripped,
+                                "content \"_\" mode { \"_\" force } \"@\" direction");
 
 }  // namespace kavrix

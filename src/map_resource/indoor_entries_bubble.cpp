@@ -21,7 +21,7 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 13;
 
-struct IndoorEntriesNames : FieldNames<IndoorEntriesNames, IndoorEntriesBubbleDrawDescriptor, 5> {
+struct IndoorEntriesFormat : FieldsFormat<IndoorEntriesFormat, IndoorEntriesBubbleDrawDescriptor, 5> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kIndoorEntries);
   template <class Fields, class Entries>
   static void List(Fields& fields, Entries& entries) {
@@ -39,7 +39,7 @@ void MapResourceTransform::ParseIndoorEntriesBubbleResourceName(const std::strin
                                                                 std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto entries = Publish<IndoorEntriesBubbleDrawDescriptor>(out);
   entries->bubble_kind = kKindCode;
-  IndoorEntriesNames::Read(resource_name, *entries);
+  IndoorEntriesFormat::Read(IndoorEntriesFormat::PayloadOf(resource_name), *entries);
 
   BubbleLayerConfigContainer config = context_->GetBubbleLayerConfigInLock();
   ApplyCommonStyle(std::move(config.indoor_entries_style), *entries);
@@ -47,12 +47,11 @@ void MapResourceTransform::ParseIndoorEntriesBubbleResourceName(const std::strin
 }
 
 std::string EncodeIndoorEntriesBubbleResourceName(const IndoorEntriesBubbleDrawDescriptor& entries) {
-  return EncodeName<IndoorEntriesNames>(entries);
+  return EncodeName<IndoorEntriesFormat>(entries);
 }
 
-const BubbleKindInfo kIndoorEntriesBubbleInfo = {
-    "IndoorEntriesBubbleDrawDescriptor", kKindCode, PayloadWay::kPrefixStripped,
-    "content \"_\" mode \"_\" lan \"_\" entries_value \"_\" entries_text \"@\" direction",
-    kCodec<IndoorEntriesNames>};
+constexpr BubbleKindInfo kIndoorEntriesBubbleInfo = MakeInfo<IndoorEntriesFormat>(
+    BubbleKind::kIndoorEntries, kKindCode, PayloadWay::kPrefixStripped,
+    "content \"_\" mode \"_\" lan \"_\" entries_value \"_\" entries_text \"@\" direction");
 
 }  // namespace kavrix

@@ -17,7 +17,7 @@ namespace kavrix {
 
 namespace {
 
-struct LaneChangeNames : WholeNames<LaneChangeNames, HDLaneChangeBubbleDrawDescriptor> {
+struct LaneChangeFormat : WholeNameFormat<LaneChangeFormat, HDLaneChangeBubbleDrawDescriptor> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kLaneChange);
   template <class Keys, class Descriptor>
   static void List(Keys& keys, Descriptor& bubble) {
@@ -30,14 +30,14 @@ struct LaneChangeNames : WholeNames<LaneChangeNames, HDLaneChangeBubbleDrawDescr
 }  // namespace
 
 bool HDLaneChangeBubbleDrawDescriptor::InitWithJson(const std::string& text) {
-  return LaneChangeNames::ReadObject(text, *this);
+  return LaneChangeFormat::Read(LaneChangeFormat::PayloadOf(text), *this);
 }
 
 std::string EncodeLaneChangeResourceName(const HDLaneChangeBubbleDrawDescriptor& change) {
-  return EncodeName<LaneChangeNames>(change);
+  return EncodeName<LaneChangeFormat>(change);
 }
 
-const BubbleKindInfo kLaneChangeBubbleInfo = {"HDLaneChangeBubbleDrawDescriptor", std::nullopt,
-                                              PayloadWay::kWholeName, "JSON object", kCodec<LaneChangeNames>};
+constexpr BubbleKindInfo kLaneChangeBubbleInfo =
+    MakeInfo<LaneChangeFormat>(BubbleKind::kLaneChange, std::nullopt, PayloadWay::kWholeName, "JSON object");
 
 }  // namespace kavrix

@@ -18,7 +18,8 @@ using logging::LogLevel;
 
 namespace {
 
-struct LightCountdownNames : JsonAndDirectionNames<LightCountdownNames, LightCountdownTimerDrawDescriptor> {
+struct LightCountdownFormat
+    : JsonAndDirectionFormat<LightCountdownFormat, LightCountdownTimerDrawDescriptor> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kLightCountdown);
   template <class Keys, class Light>
   static void List(Keys& keys, Light& light) {
@@ -43,17 +44,15 @@ void MapResourceTransform::ParseLightCountdownBubbleResourceName(const std::stri
     KAVRIX_LOG_IN(function, LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kFailure,
                   "parse json failed: " << json);
   };
-  const auto parts = SplitFields<2>(StripPrefix(resource_name), '@');
-  if (parts.count == 2) LightCountdownNames::ReadParts(parts, *light, log_failure);
+  LightCountdownFormat::Read(LightCountdownFormat::PayloadOf(resource_name), *light, log_failure);
   KAVRIX_LOG(LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kRoutine, *light);
 }
 
 std::string EncodeLightCountdownBubbleResourceName(const LightCountdownTimerDrawDescriptor& light) {
-  return EncodeName<LightCountdownNames>(light);
+  return EncodeName<LightCountdownFormat>(light);
 }
 
-const BubbleKindInfo kLightCountdownBubbleInfo = {"LightCountdownTimerDrawDescriptor", std::nullopt,
-                                                  PayloadWay::kPrefixStripped, "JSON object \"@\" direction",
-                                                  kCodec<LightCountdownNames>};
+constexpr BubbleKindInfo kLightCountdownBubbleInfo = MakeInfo<LightCountdownFormat>(
+    BubbleKind::kLightCountdown, std::nullopt, PayloadWay::kPrefixStripped, "JSON object \"@\" direction");
 
 }  // namespace kavrix

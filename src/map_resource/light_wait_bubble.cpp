@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 14;
 
-struct LightWaitNames : FieldNames<LightWaitNames, LightWaitBubbleDrawDescriptor, 4> {
+struct LightWaitFormat : FieldsFormat<LightWaitFormat, LightWaitBubbleDrawDescriptor, 4> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kLightWait);
   template <class Fields, class Descriptor>
   static void List(Fields& fields, Descriptor& bubble) {
@@ -35,16 +35,17 @@ struct LightWaitNames : FieldNames<LightWaitNames, LightWaitBubbleDrawDescriptor
   }
   static void ReadHead(const Head& fields, LightWaitBubbleDrawDescriptor& bubble) {
     if (fields.count != 4) return;
-    FieldNames::ReadHead(fields, bubble);
+    FieldsFormat::ReadHead(fields, bubble);
     bubble.is_force = fields.at[3] == "1";
   }
-  static Payload Write(const LightWaitBubbleDrawDescriptor& bubble) {
-    FieldWriter fields(4);
-    List(fields, bubble);
-    fields.Text(3, "force", bubble.is_force ? "1" : "0");
-    return WithDirection(FieldsPayload(fields, kMarker), bubble.direction);
-  }
 };
+
+Payload PayloadFor(const LightWaitFormat&, const KeyWriter& written,
+                   const LightWaitBubbleDrawDescriptor& bubble) {
+  Payload payload = FieldsPayload(written, 3, LightWaitFormat::kMarker);
+  payload.text += bubble.is_force ? "_1" : "_0";
+  return WithDirection(std::move(payload), bubble.direction);
+}
 
 }  // namespace
 
@@ -52,7 +53,7 @@ void MapResourceTransform::ParseLightWaitBubbleResourceName(const std::string& r
                                                             std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto bubble = Publish<LightWaitBubbleDrawDescriptor>(out);
   bubble->bubble_kind = kKindCode;
-  LightWaitNames::Read(resource_name, *bubble);
+  LightWaitFormat::Read(LightWaitFormat::PayloadOf(resource_name), *bubble);
 
   BubbleLayerConfigContainer config = context_->GetBubbleLayerConfigInLock();
   ApplyCommonStyle(std::move(config.light_wait_style), *bubble);
@@ -60,11 +61,11 @@ void MapResourceTransform::ParseLightWaitBubbleResourceName(const std::string& r
 }
 
 std::string EncodeLightWaitBubbleResourceName(const LightWaitBubbleDrawDescriptor& bubble) {
-  return EncodeName<LightWaitNames>(bubble);
+  return EncodeName<LightWaitFormat>(bubble);
 }
 
-const BubbleKindInfo kLightWaitBubbleInfo = {
-    "LightWaitBubbleDrawDescriptor", kKindCode, PayloadWay::kPrefixStripped,
-    "content \"_\" mode \"_\" scene \"_\" force \"@\" direction", kCodec<LightWaitNames>};
+constexpr BubbleKindInfo kLightWaitBubbleInfo =
+    MakeInfo<LightWaitFormat>(BubbleKind::kLightWait, kKindCode, PayloadWay::kPrefixStripped,
+                              "content \"_\" mode \"_\" scene \"_\" force \"@\" direction");
 
 }  // namespace kavrix

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "map_resource/bubble_markers.h"
+#include "map_resource/resource_name.h"
 #include "util/tagged_log.h"
 
 namespace kavrix {
@@ -23,51 +24,22 @@ void MapResourceTransform::GetBubbleDrawDescriptor(const std::string& resource_n
     return;
   }
   switch (*kind) {  // GCOVR_EXCL_BR_LINE: of no other value there is one
-    case BubbleKind::kTraffic:
-      return ParseTrafficBubbleResourceName(resource_name, out);
-    case BubbleKind::kRouteName:
-      return ParseRouteNameBubbleResourceName(resource_name, out);
-    case BubbleKind::kIndoorEntries:
-      return ParseIndoorEntriesBubbleResourceName(resource_name, out);
-    case BubbleKind::kCompanion:
-      return ParseCompanionBubbleResourceName(resource_name, out);
-    case BubbleKind::kCamera:
-      return ParseCameraBubbleResourceName(resource_name, out);
-    case BubbleKind::kEta:
-      return ParseEtaBubbleResourceName(resource_name, out);
-    case BubbleKind::kRouteLabel:
-      return ParseRouteLabelBubbleResourceName(resource_name, out);
-    case BubbleKind::kRouteExplain:
-      return ParseRouteExplainBubbleResourceName(resource_name, out);
-    case BubbleKind::kMarker:
-      return ParseMarkerBubbleResourceName(resource_name, out);
-    case BubbleKind::kLightCountdown:
-      return ParseLightCountdownBubbleResourceName(resource_name, out);
-    case BubbleKind::kMultiLightCountdown:
-      return ParseMultiLightCountdownBubbleResourceName(resource_name, out);
-    case BubbleKind::kViaCircle:
-      return ParseViaCircleBubbleResourceName(resource_name, out);
-    case BubbleKind::kLightWait:
-      return ParseLightWaitBubbleResourceName(resource_name, out);
-    case BubbleKind::kTurn:
-      return ParseTurnBubbleResourceName(resource_name, out);
-    case BubbleKind::kHdLongSolid:
-      return ParseHdLongSolidBubbleResourceName(resource_name, out);
-    case BubbleKind::kUndergroundPark:
-      return ParseUndergroundParkBubbleResourceName(resource_name, out);
-    case BubbleKind::kForceDot:
-      return ParseForceDotBubbleResourceName(resource_name, out);
-    case BubbleKind::kForcePoll:
-      return ParseForcePollBubbleResourceName(resource_name, out);
-    case BubbleKind::kYawNotice:
-      return ParseResourceName<YawNoticeBubbleDrawDescriptor>(resource_name, out);
-    case BubbleKind::kRouteAccident:
-      return ParseRouteAccidentResourceName(resource_name, out);
-    case BubbleKind::kSafeWarning:
-      return ParseSafeWarningResourceName(resource_name, out);
-    case BubbleKind::kLaneChange:
-      return ParseResourceName<HDLaneChangeBubbleDrawDescriptor>(resource_name, out);
+#define KAVRIX_BUBBLE_KIND(Kind, stem, marker, Descriptor, Parse, Encode) \
+  case BubbleKind::k##Kind:                                               \
+    return Parse(resource_name, out);
+#include "map_resource/bubble_kinds.def"
   }
 }
+
+template <class Descriptor>
+void MapResourceTransform::ParseResourceName(const std::string& resource_name,
+                                             std::shared_ptr<BubbleDrawDescriptor>& out) {
+  PublishInitialised<Descriptor>(resource_name, out);
+}
+
+template void MapResourceTransform::ParseResourceName<YawNoticeBubbleDrawDescriptor>(
+    const std::string&, std::shared_ptr<BubbleDrawDescriptor>&);
+template void MapResourceTransform::ParseResourceName<HDLaneChangeBubbleDrawDescriptor>(
+    const std::string&, std::shared_ptr<BubbleDrawDescriptor>&);
 
 }  // namespace kavrix

@@ -9,7 +9,6 @@
 #include "config/marker_bubble_config.h"
 #include "context/kavrix_context.h"
 #include "descriptors/descriptors.h"
-#include "map_resource/resource_name.h"
 
 namespace kavrix {
 
@@ -70,11 +69,10 @@ class MapResourceTransform {
   void ParseForcePollBubbleResourceName(const std::string& resource_name,
                                         std::shared_ptr<BubbleDrawDescriptor>& out);
 
-  // For the kinds whose descriptor decodes the whole name itself: yaw notice and lane change.
+  // For the kinds whose descriptor decodes the whole name itself: YawNoticeBubbleDrawDescriptor and
+  // HDLaneChangeBubbleDrawDescriptor.
   template <class Descriptor>
-  void ParseResourceName(const std::string& resource_name, std::shared_ptr<BubbleDrawDescriptor>& out) {
-    PublishInitialised<Descriptor>(resource_name, out);
-  }
+  void ParseResourceName(const std::string& resource_name, std::shared_ptr<BubbleDrawDescriptor>& out);
   static void ParseRouteAccidentResourceName(const std::string& resource_name,
                                              std::shared_ptr<BubbleDrawDescriptor>& out);
   void ParseSafeWarningResourceName(const std::string& resource_name,

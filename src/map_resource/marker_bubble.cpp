@@ -21,7 +21,7 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 0;
 
-struct MarkerBubbleNames : JsonNames<MarkerBubbleNames, BubbleDrawDescriptor> {
+struct MarkerBubbleFormat : JsonFormat<MarkerBubbleFormat, BubbleDrawDescriptor> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kMarker);
   template <class Keys, class Descriptor>
   static void List(Keys& keys, Descriptor& bubble) {
@@ -38,8 +38,8 @@ void MapResourceTransform::ParseMarkerBubbleResourceName(const std::string& reso
                                                          std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto bubble = Publish<BubbleDrawDescriptor>(out);
   bubble->bubble_kind = kKindCode;
-  const std::string_view payload = StripPrefixAndMarker(resource_name, MarkerBubbleNames::kMarker);
-  if (!ReadJsonObject(payload, [&](auto& keys) { MarkerBubbleNames::List(keys, *bubble); })) {
+  const std::string_view payload = MarkerBubbleFormat::PayloadOf(resource_name);
+  if (!MarkerBubbleFormat::Read(payload, *bubble)) {
     KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, "parse json failed: " << payload);
     return;
   }
@@ -47,11 +47,10 @@ void MapResourceTransform::ParseMarkerBubbleResourceName(const std::string& reso
 }
 
 std::string EncodeMarkerBubbleResourceName(const BubbleDrawDescriptor& bubble) {
-  return EncodeName<MarkerBubbleNames>(bubble);
+  return EncodeName<MarkerBubbleFormat>(bubble);
 }
 
-const BubbleKindInfo kMarkerBubbleInfo = {"BubbleDrawDescriptor", kKindCode,
-                                          PayloadWay::kPrefixAndMarkerStripped, "JSON object",
-                                          kCodec<MarkerBubbleNames>};
+constexpr BubbleKindInfo kMarkerBubbleInfo = MakeInfo<MarkerBubbleFormat>(
+    BubbleKind::kMarker, kKindCode, PayloadWay::kPrefixAndMarkerStripped, "JSON object");
 
 }  // namespace kavrix

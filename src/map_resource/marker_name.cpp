@@ -26,7 +26,7 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 21;
 
-struct MarkerNames : JsonNames<MarkerNames, MarkerDrawDescriptor> {
+struct MarkerFormat : JsonFormat<MarkerFormat, MarkerDrawDescriptor> {
   static constexpr std::string_view kMarker = kMarkerNameTail;
   template <class Keys, class Marker>
   static void List(Keys& keys, Marker& marker) {
@@ -48,37 +48,43 @@ std::string TypeText(std::int16_t marker_type) {
   return ToLowerASCII(stream.str());
 }
 
+// What a marker has that its name does not carry.
+void Complete(MarkerDrawDescriptor& marker) {
+  marker.bubble_kind = kKindCode;
+  marker.is_force = true;
+  marker.content =
+      MapResourceManager::kavrix_resource_prefix + TypeText(marker.marker_type) + "_" + marker.name;
+}
+
 }  // namespace
 
 void MapResourceTransform::GetMarkerDrawDescriptor(const std::string& resource_name,
                                                    std::shared_ptr<BubbleDrawDescriptor>& out) {
-  const std::string_view payload = StripPrefixAndMarker(resource_name, MarkerNames::kMarker);
-  Json::Value root;
-  if (!JsonUtil::ParseObject(payload, root)) {
+  const auto marker = std::make_shared<MarkerDrawDescriptor>();
+  const auto publish = [&] { out = marker; };
+  if (!MarkerFormat::Read(MarkerFormat::PayloadOf(resource_name), *marker, publish)) {
     KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure,
                "parse json failed: " << resource_name);
     return;
   }
-  ParseMarkerResourceName(root, out);
+  Complete(*marker);
 }
 
 void MapResourceTransform::ParseMarkerResourceName(const Json::Value& value,
                                                    std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto marker = Publish<MarkerDrawDescriptor>(out);
-  marker->bubble_kind = kKindCode;
   JsonKeyReader keys(value);
-  MarkerNames::List(keys, *marker);
-  marker->is_force = true;
-  marker->content =
-      MapResourceManager::kavrix_resource_prefix + TypeText(marker->marker_type) + "_" + marker->name;
+  MarkerFormat::List(keys, *marker);
+  Complete(*marker);
 }
 
 std::string EncodeMarkerResourceName(const MarkerDrawDescriptor& marker) {
-  return EncodeName<MarkerNames>(marker);
+  return EncodeName<MarkerFormat>(marker);
 }
 
-const BubbleKindInfo kMarkerNameInfo = {"MarkerDrawDescriptor", kKindCode,
-                                        PayloadWay::kPrefixAndMarkerStripped, "JSON object",
-                                        kCodec<MarkerNames>};
+constexpr BubbleKindInfo kMarkerNameInfo = {kMarkerNameTail, EntryPoint::kMarker,
+                                            "marker_name",   "MarkerDrawDescriptor",
+                                            kKindCode,       PayloadWay::kPrefixAndMarkerStripped,
+                                            "JSON object",   kCodec<MarkerFormat>};
 
 }  // namespace kavrix

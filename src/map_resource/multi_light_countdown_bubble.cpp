@@ -21,8 +21,8 @@ using logging::LogLevel;
 
 namespace {
 
-struct MultiLightCountdownNames
-    : JsonAndDirectionNames<MultiLightCountdownNames, MultiLightCountdownTimerDrawDescriptor> {
+struct MultiLightCountdownFormat
+    : JsonAndDirectionFormat<MultiLightCountdownFormat, MultiLightCountdownTimerDrawDescriptor> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kMultiLightCountdown);
   template <class Keys, class Lights>
   static void List(Keys& keys, Lights& lights) {
@@ -32,9 +32,9 @@ struct MultiLightCountdownNames
     keys.Integer("style", lights.style);
     keys.Text("id", lights.id);
     keys.TrueWhenOne("is_animation", lights.is_animation);
-    keys.Records("light_descriptors", lights.light_descriptors, [](auto& item_keys, auto& light) {
+    keys.Objects("light_descriptors", lights.light_descriptors, [](auto& item_keys, auto& light) {
       item_keys.Integer("light_type", light.light_type);
-      item_keys.Integer("turn_arrow_type", light.turn_arrow_type);
+      item_keys.Integer("turn_arrow_type", light.turn_arrow_type, light.kNoTurnArrow);
       item_keys.Integer("remain_time", light.remain_time);
       item_keys.Text("text", light.text);
       item_keys.Integer("total_time", light.total_time);
@@ -52,18 +52,17 @@ void MapResourceTransform::ParseMultiLightCountdownBubbleResourceName(
     KAVRIX_LOG_IN(function, LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kFailure,
                   "parse json failed: " << json);
   };
-  const auto parts = SplitFields<2>(StripPrefix(resource_name), '@');
-  if (parts.count == 2) MultiLightCountdownNames::ReadParts(parts, *lights, log_failure);
+  MultiLightCountdownFormat::Read(MultiLightCountdownFormat::PayloadOf(resource_name), *lights, log_failure);
   KAVRIX_LOG(LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kRoutine, *lights);
 }
 
 std::string EncodeMultiLightCountdownBubbleResourceName(
     const MultiLightCountdownTimerDrawDescriptor& lights) {
-  return EncodeName<MultiLightCountdownNames>(lights);
+  return EncodeName<MultiLightCountdownFormat>(lights);
 }
 
-const BubbleKindInfo kMultiLightCountdownBubbleInfo = {
-    "MultiLightCountdownTimerDrawDescriptor", std::nullopt, PayloadWay::kPrefixStripped,
-    "JSON object \"@\" direction", kCodec<MultiLightCountdownNames>};
+constexpr BubbleKindInfo kMultiLightCountdownBubbleInfo =
+    MakeInfo<MultiLightCountdownFormat>(BubbleKind::kMultiLightCountdown, std::nullopt,
+                                        PayloadWay::kPrefixStripped, "JSON object \"@\" direction");
 
 }  // namespace kavrix

@@ -1,6 +1,6 @@
 #include "map_resource/name_codec.h"
 
-#include <utility>
+#include <exception>
 
 #include "map_resource/encode_error.h"
 #include "map_resource/map_resource_manager.h"
@@ -17,20 +17,17 @@ bool GoesTo(std::string_view name, std::string_view marker) {
   return marker == kMarkerNameTail || FindBubbleKind(name) == FindBubbleKind(marker);
 }
 
-std::string Reading(const std::string& name, std::string_view marker, const NameCodec& codec) {
-  try {
-    const std::optional<std::string> fields = codec.read_fields(name);
-    return KindName(marker) + " " + fields.value_or("without any field, for its payload does not parse");
-  } catch (const std::exception&) {
-    return KindName(marker) + " with bytes that are not UTF-8";
-  }
-}
-
 // What a reader makes of the name, which holds the marker, for messages.
 std::string Decoded(const std::string& name, std::string_view marker) {
-  if (marker == kMarkerNameTail) return Reading(name, marker, kMarkerNameInfo.codec);
-  const BubbleKind kind = FindBubbleKind(name).value();
-  return Reading(name, MarkerOf(kind), InfoOf(kind).codec);
+  const BubbleKindInfo& info =
+      marker == kMarkerNameTail ? kMarkerNameInfo : InfoOf(FindBubbleKind(name).value());
+  const std::string kind(info.Name());
+  try {
+    const std::optional<std::string> fields = info.codec.read_fields(name);
+    return kind + " " + fields.value_or("without any field, for its payload does not parse");
+  } catch (const std::exception&) {
+    return kind + " with bytes that are not UTF-8";
+  }
 }
 
 std::size_t ColumnOf(std::string_view text, std::size_t byte_offset) {
@@ -40,13 +37,6 @@ std::size_t ColumnOf(std::string_view text, std::size_t byte_offset) {
 }
 
 }  // namespace
-
-EncodeError::EncodeError(const std::string& kind, const std::string& field, const std::string& problem,
-                         std::optional<BadCharacter> character)
-    : runtime_error(kind + ": " + field + ": " + problem),
-      kind_(kind),
-      field_(field),
-      character_(std::move(character)) {}
 
 std::optional<BadText> FindBadText(const std::string& field, const std::string& text,
                                    std::string_view marker) {
@@ -61,14 +51,15 @@ std::optional<BadText> FindBadText(const std::string& field, const std::string& 
   return BadText{field, text, text.find(MarkerOf(*kind)), "begins the marker of another kind"};
 }
 
-Payload FieldsPayload(const FieldWriter& fields, std::string_view marker) {
+Payload FieldsPayload(const KeyWriter& written, std::size_t count, std::string_view marker) {
   Payload payload;
-  for (std::size_t i = 0; i < fields.fields().size(); ++i) {
-    const std::string& field = fields.fields()[i];
+  for (std::size_t i = 0; i < count; ++i) {
     if (i > 0) payload.text += '_';
-    payload.text += field;
-    const bool is_read = fields.names()[i] != nullptr;
-    if (is_read && !payload.bad) payload.bad = FindBadText(fields.names()[i], field, marker);
+    if (i >= written.fields().size()) continue;
+    const KeyWriter::Field& field = written.fields()[i];
+    payload.text += field.text;
+    const bool is_read = field.name != nullptr;
+    if (is_read && !payload.bad) payload.bad = FindBadText(field.name, field.text, marker);
   }
   return payload;
 }

@@ -1,10 +1,10 @@
 #include "map_resource/resource_name.h"
 
+#include <cstdint>
 #include <cstring>
 
 #include "map_resource/map_resource_manager.h"
-#include "util/key_reader.h"
-#include "util/string_util.h"
+#include "util/fields.h"
 
 namespace kavrix {
 
@@ -26,10 +26,15 @@ std::string_view StripPrefixAndMarker(const std::string& resource_name, std::str
       .substr(prefix_length, resource_name.size() - prefix_length - marker.size());
 }
 
+void ReadDirection(std::string_view text, BubbleDrawDescriptor& descriptor) {
+  int direction = 0;
+  if (ReadInt(text, direction)) descriptor.direction = static_cast<std::int16_t>(direction);
+}
+
 void ReadDirectionTail(std::string_view tail, BubbleDrawDescriptor& descriptor) {
   const auto fields = SplitFields<2>(tail, '.');
   if (fields.count != 2) return;
-  FieldReader(fields.at.data()).Integer(0, "direction", descriptor.direction);
+  ReadDirection(fields.at[0], descriptor);
 }
 
 std::string_view FindJsonObject(std::string_view resource_name) {

@@ -13,11 +13,11 @@ namespace kavrix {
 // A resource name is prefix + payload + marker. Neither end is ever compared: as many bytes are dropped as
 // the prefix and the marker have. A name shorter than the prefix throws std::out_of_range.
 
-// Everything behind the prefix, marker included.
+// Everything after the prefix, marker included.
 std::string_view StripPrefix(const std::string& resource_name);
 
 // What stands between prefix and marker. In a name too short to hold both the count wraps around and
-// everything behind the prefix is left.
+// everything after the prefix is left.
 std::string_view StripPrefixAndMarker(const std::string& resource_name, std::string_view marker);
 
 // Makes the descriptor of a kind and shows it to the caller at once: whatever fails later, it is there to
@@ -37,11 +37,14 @@ void PublishInitialised(const std::string& resource_name, std::shared_ptr<Bubble
   out = std::move(descriptor);
 }
 
-// Reads the direction from what stands behind "@": a decimal integer, a dot and the marker word, which is not
-// compared. The low 16 bits are stored; anything of another shape leaves the direction alone.
+// Reads the direction from a decimal integer, low 16 bits; any other text leaves it alone.
+void ReadDirection(std::string_view text, BubbleDrawDescriptor& descriptor);
+
+// The same from the text after "@": the integer, a dot and the marker word, which is not compared. A tail of
+// another shape leaves the direction alone.
 void ReadDirectionTail(std::string_view tail, BubbleDrawDescriptor& descriptor);
 
-// The text from the first brace behind the prefix to the last one: the JSON object of a whole resource name.
+// The text from the first brace after the prefix to the last one: the JSON object of a whole resource name.
 // Empty when there is none.
 std::string_view FindJsonObject(std::string_view resource_name);
 

@@ -9,8 +9,9 @@
 // The placing side: builds the resource name of a bubble from the descriptor that the name shall decode to.
 // Members that names of the kind do not carry (styles, kind codes) are not looked at.
 //
-// The names are canonical: equal bubbles give equal bytes. JSON objects have their keys in reading order, no
-// blanks, and leave out what decodes to the same when left out; "mode" is always there. Inside JSON texts
+// The names are canonical: what decodes to equal descriptors has equal bytes. JSON objects have their keys in
+// reading order, no blanks, and leave out what decodes to the same when left out; "mode" is always there.
+// Inside JSON texts
 // '@', '.' and control characters are \u escapes, so every text in UTF-8 comes through.
 //
 // Each function decodes its own name before it returns it, and throws EncodeError for what would not come
@@ -18,8 +19,10 @@
 // text, bytes that are not UTF-8, a prefix that breaks names.
 namespace kavrix {
 
-// `nav_mode` selects the style record together with the scene; the descriptor does not hold it.
-std::string EncodeTrafficBubbleResourceName(const TrafficDrawDescriptor& traffic, int nav_mode = 1);
+// `nav_mode` selects the style record together with the scene; the descriptor does not hold it. Modes that
+// select the same record give the same name.
+std::string EncodeTrafficBubbleResourceName(const TrafficDrawDescriptor& traffic,
+                                            int nav_mode = TrafficDrawDescriptor::kDefaultNavMode);
 std::string EncodeRouteNameBubbleResourceName(const BubbleDrawDescriptor& bubble);
 std::string EncodeIndoorEntriesBubbleResourceName(const IndoorEntriesBubbleDrawDescriptor& entries);
 std::string EncodeCompanionBubbleResourceName(const CompanionBubbleDrawDescriptor& companion);

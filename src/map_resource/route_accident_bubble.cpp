@@ -17,7 +17,7 @@ namespace kavrix {
 
 namespace {
 
-struct RouteAccidentNames : WholeNames<RouteAccidentNames, RouteAccidentBubbleDrawDescriptor> {
+struct RouteAccidentFormat : WholeNameFormat<RouteAccidentFormat, RouteAccidentBubbleDrawDescriptor> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kRouteAccident);
   template <class Keys, class Descriptor>
   static void List(Keys& keys, Descriptor& bubble) {
@@ -30,7 +30,7 @@ struct RouteAccidentNames : WholeNames<RouteAccidentNames, RouteAccidentBubbleDr
 }  // namespace
 
 bool RouteAccidentBubbleDrawDescriptor::InitWithJson(const std::string& text) {
-  return RouteAccidentNames::ReadObject(text, *this);
+  return RouteAccidentFormat::Read(RouteAccidentFormat::PayloadOf(text), *this);
 }
 
 void MapResourceTransform::ParseRouteAccidentResourceName(const std::string& resource_name,
@@ -39,11 +39,10 @@ void MapResourceTransform::ParseRouteAccidentResourceName(const std::string& res
 }
 
 std::string EncodeRouteAccidentResourceName(const RouteAccidentBubbleDrawDescriptor& accident) {
-  return EncodeName<RouteAccidentNames>(accident);
+  return EncodeName<RouteAccidentFormat>(accident);
 }
 
-const BubbleKindInfo kRouteAccidentBubbleInfo = {"RouteAccidentBubbleDrawDescriptor", std::nullopt,
-                                                 PayloadWay::kWholeName, "JSON object",
-                                                 kCodec<RouteAccidentNames>};
+constexpr BubbleKindInfo kRouteAccidentBubbleInfo = MakeInfo<RouteAccidentFormat>(
+    BubbleKind::kRouteAccident, std::nullopt, PayloadWay::kWholeName, "JSON object");
 
 }  // namespace kavrix

@@ -19,7 +19,7 @@ using logging::LogLevel;
 
 namespace {
 
-struct RouteExplainNames : JsonNames<RouteExplainNames, ExplainBubbleDrawDescriptor> {
+struct RouteExplainFormat : JsonFormat<RouteExplainFormat, ExplainBubbleDrawDescriptor> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kRouteExplain);
   template <class Keys, class Explain>
   static void List(Keys& keys, Explain& explain) {
@@ -42,8 +42,8 @@ struct RouteExplainNames : JsonNames<RouteExplainNames, ExplainBubbleDrawDescrip
 void MapResourceTransform::ParseRouteExplainBubbleResourceName(const std::string& resource_name,
                                                                std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto explain = Publish<ExplainBubbleDrawDescriptor>(out);
-  const std::string_view payload = StripPrefixAndMarker(resource_name, RouteExplainNames::kMarker);
-  if (!ReadJsonObject(payload, [&](auto& keys) { RouteExplainNames::List(keys, *explain); })) {
+  const std::string_view payload = RouteExplainFormat::PayloadOf(resource_name);
+  if (!RouteExplainFormat::Read(payload, *explain)) {
     KAVRIX_LOG(LogTagKavrixMapLayerMgr_CameraLayer, LogLevel::kFailure, "parse json failed: " << payload);
     return;
   }
@@ -51,11 +51,10 @@ void MapResourceTransform::ParseRouteExplainBubbleResourceName(const std::string
 }
 
 std::string EncodeRouteExplainBubbleResourceName(const ExplainBubbleDrawDescriptor& explain) {
-  return EncodeName<RouteExplainNames>(explain);
+  return EncodeName<RouteExplainFormat>(explain);
 }
 
-const BubbleKindInfo kRouteExplainBubbleInfo = {"ExplainBubbleDrawDescriptor", std::nullopt,
-                                                PayloadWay::kPrefixAndMarkerStripped, "JSON object",
-                                                kCodec<RouteExplainNames>};
+constexpr BubbleKindInfo kRouteExplainBubbleInfo = MakeInfo<RouteExplainFormat>(
+    BubbleKind::kRouteExplain, std::nullopt, PayloadWay::kPrefixAndMarkerStripped, "JSON object");
 
 }  // namespace kavrix

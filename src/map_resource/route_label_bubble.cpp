@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 7;
 
-struct RouteLabelNames : FieldNames<RouteLabelNames, BubbleDrawDescriptor, 2> {
+struct RouteLabelFormat : FieldsFormat<RouteLabelFormat, BubbleDrawDescriptor, 2> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kRouteLabel);
   template <class Fields, class Descriptor>
   static void List(Fields& fields, Descriptor& label) {
@@ -34,7 +34,7 @@ void MapResourceTransform::ParseRouteLabelBubbleResourceName(const std::string& 
                                                              std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto label = Publish<BubbleDrawDescriptor>(out);
   label->bubble_kind = kKindCode;
-  RouteLabelNames::Read(resource_name, *label);
+  RouteLabelFormat::Read(RouteLabelFormat::PayloadOf(resource_name), *label);
 
   BubbleLayerConfigContainer config = context_->GetBubbleLayerConfigInLock();
   auto& style = config.route_label_style;
@@ -45,10 +45,10 @@ void MapResourceTransform::ParseRouteLabelBubbleResourceName(const std::string& 
 }
 
 std::string EncodeRouteLabelBubbleResourceName(const BubbleDrawDescriptor& label) {
-  return EncodeName<RouteLabelNames>(label);
+  return EncodeName<RouteLabelFormat>(label);
 }
 
-const BubbleKindInfo kRouteLabelBubbleInfo = {"BubbleDrawDescriptor", kKindCode, PayloadWay::kPrefixStripped,
-                                              "content \"_\" mode \"@\" direction", kCodec<RouteLabelNames>};
+constexpr BubbleKindInfo kRouteLabelBubbleInfo = MakeInfo<RouteLabelFormat>(
+    BubbleKind::kRouteLabel, kKindCode, PayloadWay::kPrefixStripped, "content \"_\" mode \"@\" direction");
 
 }  // namespace kavrix

@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 0;
 
-struct RouteNameNames : FieldNames<RouteNameNames, BubbleDrawDescriptor, 3> {
+struct RouteNameFormat : FieldsFormat<RouteNameFormat, BubbleDrawDescriptor, 3> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kRouteName);
   template <class Fields, class Descriptor>
   static void List(Fields& fields, Descriptor& bubble) {
@@ -35,7 +35,7 @@ void MapResourceTransform::ParseRouteNameBubbleResourceName(const std::string& r
                                                             std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto bubble = Publish<BubbleDrawDescriptor>(out);
   bubble->bubble_kind = kKindCode;
-  RouteNameNames::Read(resource_name, *bubble);
+  RouteNameFormat::Read(RouteNameFormat::PayloadOf(resource_name), *bubble);
 
   BubbleLayerConfigContainer config = context_->GetBubbleLayerConfigInLock();
   ApplyCommonStyle(std::move(bubble->scene == 0 ? config.route_name_style : config.route_name_scene_style),
@@ -44,11 +44,11 @@ void MapResourceTransform::ParseRouteNameBubbleResourceName(const std::string& r
 }
 
 std::string EncodeRouteNameBubbleResourceName(const BubbleDrawDescriptor& bubble) {
-  return EncodeName<RouteNameNames>(bubble);
+  return EncodeName<RouteNameFormat>(bubble);
 }
 
-const BubbleKindInfo kRouteNameBubbleInfo = {"BubbleDrawDescriptor", kKindCode, PayloadWay::kPrefixStripped,
-                                             "content \"_\" mode \"_\" scene \"@\" direction",
-                                             kCodec<RouteNameNames>};
+constexpr BubbleKindInfo kRouteNameBubbleInfo =
+    MakeInfo<RouteNameFormat>(BubbleKind::kRouteName, kKindCode, PayloadWay::kPrefixStripped,
+                              "content \"_\" mode \"_\" scene \"@\" direction");
 
 }  // namespace kavrix

@@ -21,63 +21,54 @@ using logging::LogLevel;
 
 namespace {
 
-struct SafeWarningNames {
+struct SafeWarningFormat : JsonFormat<SafeWarningFormat, SafeWarningBubbleDrawDescriptor> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kSafeWarning);
-  using Carried = SafeWarningBubbleDrawDescriptor;
   template <class Keys, class Descriptor>
   static void List(Keys& keys, Descriptor& bubble) {
     SelfInitialisedKeys(keys, bubble);
     keys.Integer("category", bubble.category);
     keys.Integer("distance", bubble.distance);
   }
-  template <class Keys, class Descriptor>
-  static void ListAll(Keys& keys, Descriptor& bubble) {
-    List(keys, bubble);
-  }
-  static bool Read(const std::string& name, SafeWarningBubbleDrawDescriptor& warning) {
-    const auto parts = SplitFields<2>(StripPrefixAndMarker(name, kMarker), '@');
+  // False when the payload is not two parts.
+  static bool Read(std::string_view payload, SafeWarningBubbleDrawDescriptor& warning) {
+    const auto parts = SplitFields<2>(payload, '@');
     if (parts.count != 2) return false;
-    ReadParts(parts, warning);
+    warning.InitWithJson(std::string(parts.at[0]));
+    ReadDirection(parts.at[1], warning);
     return true;
   }
-  static void ReadParts(const Fields<2>& parts, SafeWarningBubbleDrawDescriptor& warning) {
-    warning.InitWithJson(std::string(parts.at[0]));
-    FieldReader(&parts.at[1]).Integer(0, "direction", warning.direction);
-  }
-  // The direction is always there behind "@", so the object leaves it out.
-  static Payload Write(const SafeWarningBubbleDrawDescriptor& warning) {
-    SafeWarningBubbleDrawDescriptor without_direction = warning;
-    without_direction.direction = 0;
-    return WithDirection(WriteJsonObject<SafeWarningNames>(without_direction), warning.direction);
-  }
 };
+
+// The direction is always there after "@", so the object leaves it out.
+Payload PayloadFor(const SafeWarningFormat&, const KeyWriter& written,
+                   const SafeWarningBubbleDrawDescriptor& warning) {
+  return WithDirection({written.Object("direction"), written.bad()}, warning.direction);
+}
 
 }  // namespace
 
 bool SafeWarningBubbleDrawDescriptor::InitWithJson(const std::string& text) {
-  return ReadJsonObject(text, [&](auto& keys) { SafeWarningNames::List(keys, *this); });
+  return ReadJsonObject(text, [&](auto& keys) { SafeWarningFormat::List(keys, *this); });
 }
 
 void MapResourceTransform::ParseSafeWarningResourceName(const std::string& resource_name,
                                                         std::shared_ptr<BubbleDrawDescriptor>& out) {
-  const std::string_view payload = StripPrefixAndMarker(resource_name, SafeWarningNames::kMarker);
-  const auto parts = SplitFields<2>(payload, '@');
-  if (parts.count != 2) {
+  const std::string_view payload = SafeWarningFormat::PayloadOf(resource_name);
+  auto warning = std::make_shared<SafeWarningBubbleDrawDescriptor>();
+  if (!SafeWarningFormat::Read(payload, *warning)) {
     KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure,
                "parse resource_name failed: " << payload);
     return;
   }
-  auto warning = std::make_shared<SafeWarningBubbleDrawDescriptor>();
-  SafeWarningNames::ReadParts(parts, *warning);
   out = std::move(warning);
 }
 
 std::string EncodeSafeWarningResourceName(const SafeWarningBubbleDrawDescriptor& warning) {
-  return EncodeName<SafeWarningNames>(warning);
+  return EncodeName<SafeWarningFormat>(warning);
 }
 
-const BubbleKindInfo kSafeWarningBubbleInfo = {"SafeWarningBubbleDrawDescriptor", std::nullopt,
-                                               PayloadWay::kPrefixAndMarkerStripped,
-                                               "JSON object \"@\" direction", kCodec<SafeWarningNames>};
+constexpr BubbleKindInfo kSafeWarningBubbleInfo =
+    MakeInfo<SafeWarningFormat>(BubbleKind::kSafeWarning, std::nullopt, PayloadWay::kPrefixAndMarkerStripped,
+                                "JSON object \"@\" direction");
 
 }  // namespace kavrix

@@ -19,31 +19,38 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 1;
 
-template <class Keys, class Traffic, class Int>
-void TrafficKeys(Keys& keys, Traffic& traffic, Int& nav_mode) {
-  keys.Text("content", traffic.content);
-  keys.Integer("direction", traffic.direction);
-  keys.TrueWhenZero("mode", traffic.mode_flag);
-  keys.Text("light_text", traffic.light_text);
-  keys.Integer("scene", traffic.scene);
-  keys.Integer("extra_type", traffic.extra_type);
-  keys.Integer("nav_mode", nav_mode);
-}
-
+// What a name carries: the descriptor has no room for the navigation mode.
 struct TrafficName {
-  TrafficDrawDescriptor traffic;
-  int nav_mode = 1;
+  std::shared_ptr<TrafficDrawDescriptor> traffic = std::make_shared<TrafficDrawDescriptor>();
+  int nav_mode = TrafficDrawDescriptor::kDefaultNavMode;
+
+  // Which of the two records of a scene other than 0 gives the style.
+  bool IsNavigating() const { return nav_mode == 1; }
 };
 
-struct TrafficNames : JsonNames<TrafficNames, TrafficName> {
+struct TrafficFormat : JsonFormat<TrafficFormat, TrafficName> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kTraffic);
   template <class Keys, class Name>
   static void List(Keys& keys, Name& name) {
-    TrafficKeys(keys, name.traffic, name.nav_mode);
+    keys.Text("content", name.traffic->content);
+    keys.Integer("direction", name.traffic->direction);
+    keys.TrueWhenZero("mode", name.traffic->mode_flag);
+    keys.Text("light_text", name.traffic->light_text);
+    keys.Integer("scene", name.traffic->scene);
+    keys.Integer("extra_type", name.traffic->extra_type);
+    keys.Integer("nav_mode", name.nav_mode, TrafficDrawDescriptor::kDefaultNavMode);
   }
 };
 
-// The three traffic records differ in length alone.
+// A navigation mode that selects no other record than its neighbours is written as they are.
+TrafficName Canonical(const TrafficFormat&, TrafficName name) {
+  constexpr int kNotNavigating = 0;
+  if (name.traffic->scene == 0) name.nav_mode = TrafficDrawDescriptor::kDefaultNavMode;
+  if (!name.IsNavigating()) name.nav_mode = kNotNavigating;
+  return name;
+}
+
+// The three traffic records differ only in length.
 template <class Record>
 void ApplyTrafficStyle(Record&& record, TrafficDrawDescriptor& traffic) {
   ApplyCommonStyle(std::forward<Record>(record), traffic);
@@ -58,32 +65,31 @@ void ApplyTrafficStyle(Record&& record, TrafficDrawDescriptor& traffic) {
 
 void MapResourceTransform::ParseTrafficBubbleResourceName(const std::string& resource_name,
                                                           std::shared_ptr<BubbleDrawDescriptor>& out) {
-  const auto traffic = Publish<TrafficDrawDescriptor>(out);
-  traffic->bubble_kind = kKindCode;
-  const std::string_view payload = StripPrefixAndMarker(resource_name, TrafficNames::kMarker);
-  int nav_mode = 1;
-  if (!ReadJsonObject(payload, [&](auto& keys) { TrafficKeys(keys, *traffic, nav_mode); })) {
+  TrafficName name{Publish<TrafficDrawDescriptor>(out)};
+  TrafficDrawDescriptor& traffic = *name.traffic;
+  traffic.bubble_kind = kKindCode;
+  const std::string_view payload = TrafficFormat::PayloadOf(resource_name);
+  if (!TrafficFormat::Read(payload, name)) {
     KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, "parse json failed: " << payload);
     return;
   }
 
   BubbleLayerConfigContainer config = context_->GetBubbleLayerConfigInLock();
-  if (traffic->scene == 0) {
-    ApplyTrafficStyle(std::move(config.traffic_style), *traffic);
-  } else if (nav_mode == 1) {
-    ApplyTrafficStyle(std::move(config.traffic_nav_style), *traffic);
+  if (traffic.scene == 0) {
+    ApplyTrafficStyle(std::move(config.traffic_style), traffic);
+  } else if (name.IsNavigating()) {
+    ApplyTrafficStyle(std::move(config.traffic_nav_style), traffic);
   } else {
-    ApplyTrafficStyle(std::move(config.traffic_scene_style), *traffic);
+    ApplyTrafficStyle(std::move(config.traffic_scene_style), traffic);
   }
   KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kRoutine, *out);
 }
 
 std::string EncodeTrafficBubbleResourceName(const TrafficDrawDescriptor& traffic, int nav_mode) {
-  return EncodeName<TrafficNames>({traffic, nav_mode});
+  return EncodeName<TrafficFormat>({std::make_shared<TrafficDrawDescriptor>(traffic), nav_mode});
 }
 
-const BubbleKindInfo kTrafficBubbleInfo = {"TrafficDrawDescriptor", kKindCode,
-                                           PayloadWay::kPrefixAndMarkerStripped, "JSON object",
-                                           kCodec<TrafficNames>};
+constexpr BubbleKindInfo kTrafficBubbleInfo = MakeInfo<TrafficFormat>(
+    BubbleKind::kTraffic, kKindCode, PayloadWay::kPrefixAndMarkerStripped, "JSON object");
 
 }  // namespace kavrix

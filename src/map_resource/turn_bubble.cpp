@@ -21,7 +21,7 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 10;
 
-struct TurnNames : JsonNames<TurnNames, TurnArrowBubbleDrawDescriptor> {
+struct TurnFormat : JsonFormat<TurnFormat, TurnArrowBubbleDrawDescriptor> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kTurn);
   template <class Keys, class Turn>
   static void List(Keys& keys, Turn& turn) {
@@ -34,8 +34,8 @@ struct TurnNames : JsonNames<TurnNames, TurnArrowBubbleDrawDescriptor> {
     keys.Integer("distance", turn.distance);
   }
   // A broken payload is no failure.
-  static bool Read(const std::string& name, TurnArrowBubbleDrawDescriptor& turn) {
-    JsonNames::Read(name, turn);
+  static bool ReadName(const std::string& name, TurnArrowBubbleDrawDescriptor& turn) {
+    Read(PayloadOf(name), turn);
     return true;
   }
 };
@@ -46,18 +46,17 @@ void MapResourceTransform::ParseTurnBubbleResourceName(const std::string& resour
                                                        std::shared_ptr<BubbleDrawDescriptor>& out) {
   KAVRIX_LOG(LogTagKavrixMapLayerMgr_TurnArrow, LogLevel::kRoutine, " resource_name:" << resource_name);
   const auto turn = Publish<TurnArrowBubbleDrawDescriptor>(out);
-  const std::string_view payload = StripPrefixAndMarker(resource_name, TurnNames::kMarker);
+  const std::string_view payload = TurnFormat::PayloadOf(resource_name);
   turn->bubble_kind = kKindCode;
   turn->style_name = std::move(context_->GetBubbleLayerConfigInLock().turn_style.name);
-  ReadJsonObject(payload, [&](auto& keys) { TurnNames::List(keys, *turn); });
+  TurnFormat::Read(payload, *turn);
 }
 
 std::string EncodeTurnBubbleResourceName(const TurnArrowBubbleDrawDescriptor& turn) {
-  return EncodeName<TurnNames>(turn);
+  return EncodeName<TurnFormat>(turn);
 }
 
-const BubbleKindInfo kTurnBubbleInfo = {"TurnArrowBubbleDrawDescriptor", kKindCode,
-                                        PayloadWay::kPrefixAndMarkerStripped, "JSON object",
-                                        kCodec<TurnNames>};
+constexpr BubbleKindInfo kTurnBubbleInfo =
+    MakeInfo<TurnFormat>(BubbleKind::kTurn, kKindCode, PayloadWay::kPrefixAndMarkerStripped, "JSON object");
 
 }  // namespace kavrix

@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 25;
 
-struct UndergroundParkNames : JsonNames<UndergroundParkNames, BubbleDrawDescriptor> {
+struct UndergroundParkFormat : JsonFormat<UndergroundParkFormat, BubbleDrawDescriptor> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kUndergroundPark);
   template <class Keys, class Descriptor>
   static void List(Keys& keys, Descriptor& bubble) {
@@ -36,23 +36,20 @@ void MapResourceTransform::ParseUndergroundParkBubbleResourceName(
     const std::string& resource_name, std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto bubble = Publish<BubbleDrawDescriptor>(out);
   bubble->bubble_kind = kKindCode;
-  const std::string_view payload = StripPrefixAndMarker(resource_name, UndergroundParkNames::kMarker);
-  Json::Value root;
-  if (!JsonUtil::ParseObject(payload, root)) {
+  const std::string_view payload = UndergroundParkFormat::PayloadOf(resource_name);
+  const auto log_payload = [&, function = __func__] {
+    KAVRIX_LOG_IN(function, LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, payload);
+  };
+  if (!UndergroundParkFormat::Read(payload, *bubble, log_payload)) {
     KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, "parse json failed: " << payload);
-    return;
   }
-  KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, payload);
-  JsonKeyReader keys(root);
-  UndergroundParkNames::List(keys, *bubble);
 }
 
 std::string EncodeUndergroundParkBubbleResourceName(const BubbleDrawDescriptor& bubble) {
-  return EncodeName<UndergroundParkNames>(bubble);
+  return EncodeName<UndergroundParkFormat>(bubble);
 }
 
-const BubbleKindInfo kUndergroundParkBubbleInfo = {"BubbleDrawDescriptor", kKindCode,
-                                                   PayloadWay::kPrefixAndMarkerStripped, "JSON object",
-                                                   kCodec<UndergroundParkNames>};
+constexpr BubbleKindInfo kUndergroundParkBubbleInfo = MakeInfo<UndergroundParkFormat>(
+    BubbleKind::kUndergroundPark, kKindCode, PayloadWay::kPrefixAndMarkerStripped, "JSON object");
 
 }  // namespace kavrix

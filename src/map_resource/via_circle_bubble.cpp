@@ -20,7 +20,7 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 20;
 
-struct ViaCircleNames : JsonNames<ViaCircleNames, ViaPointDrawDescriptor> {
+struct ViaCircleFormat : JsonFormat<ViaCircleFormat, ViaPointDrawDescriptor> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kViaCircle);
   template <class Keys, class Via>
   static void List(Keys& keys, Via& via) {
@@ -43,19 +43,17 @@ void MapResourceTransform::ParseViaCircleBubbleResourceName(const std::string& r
                                                             std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto via = Publish<ViaPointDrawDescriptor>(out);
   via->bubble_kind = kKindCode;
-  const std::string_view payload = StripPrefixAndMarker(resource_name, ViaCircleNames::kMarker);
-  if (!ReadJsonObject(payload, [&](auto& keys) { ViaCircleNames::List(keys, *via); })) {
+  const std::string_view payload = ViaCircleFormat::PayloadOf(resource_name);
+  if (!ViaCircleFormat::Read(payload, *via)) {
     KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, "parse json failed: " << payload);
-    return;
   }
 }
 
 std::string EncodeViaCircleBubbleResourceName(const ViaPointDrawDescriptor& via) {
-  return EncodeName<ViaCircleNames>(via);
+  return EncodeName<ViaCircleFormat>(via);
 }
 
-const BubbleKindInfo kViaCircleBubbleInfo = {"ViaPointDrawDescriptor", kKindCode,
-                                             PayloadWay::kPrefixAndMarkerStripped, "JSON object",
-                                             kCodec<ViaCircleNames>};
+constexpr BubbleKindInfo kViaCircleBubbleInfo = MakeInfo<ViaCircleFormat>(
+    BubbleKind::kViaCircle, kKindCode, PayloadWay::kPrefixAndMarkerStripped, "JSON object");
 
 }  // namespace kavrix

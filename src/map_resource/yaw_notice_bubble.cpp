@@ -17,7 +17,7 @@ namespace kavrix {
 
 namespace {
 
-struct YawNoticeNames : WholeNames<YawNoticeNames, YawNoticeBubbleDrawDescriptor> {
+struct YawNoticeFormat : WholeNameFormat<YawNoticeFormat, YawNoticeBubbleDrawDescriptor> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kYawNotice);
   template <class Keys, class Descriptor>
   static void List(Keys& keys, Descriptor& bubble) {
@@ -29,14 +29,14 @@ struct YawNoticeNames : WholeNames<YawNoticeNames, YawNoticeBubbleDrawDescriptor
 }  // namespace
 
 bool YawNoticeBubbleDrawDescriptor::InitWithJson(const std::string& text) {
-  return YawNoticeNames::ReadObject(text, *this);
+  return YawNoticeFormat::Read(YawNoticeFormat::PayloadOf(text), *this);
 }
 
 std::string EncodeYawNoticeResourceName(const YawNoticeBubbleDrawDescriptor& notice) {
-  return EncodeName<YawNoticeNames>(notice);
+  return EncodeName<YawNoticeFormat>(notice);
 }
 
-const BubbleKindInfo kYawNoticeBubbleInfo = {"YawNoticeBubbleDrawDescriptor", std::nullopt,
-                                             PayloadWay::kWholeName, "JSON object", kCodec<YawNoticeNames>};
+constexpr BubbleKindInfo kYawNoticeBubbleInfo =
+    MakeInfo<YawNoticeFormat>(BubbleKind::kYawNotice, std::nullopt, PayloadWay::kWholeName, "JSON object");
 
 }  // namespace kavrix

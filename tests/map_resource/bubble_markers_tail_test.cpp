@@ -10,8 +10,8 @@ namespace kavrix::test {
 namespace {
 
 std::optional<BubbleKind> FindBySearches(const std::string& name) {
-  for (std::size_t i = 0; i < kBubbleMarkers.size(); ++i) {
-    if (name.find(kBubbleMarkers[i]) != std::string::npos) return static_cast<BubbleKind>(i);
+  for (const BubbleKind kind : kBubbleKinds) {
+    if (name.find(MarkerOf(kind)) != std::string::npos) return kind;
   }
   return std::nullopt;
 }

@@ -13,14 +13,14 @@ constexpr int kComesBackAsAnother = 4;
 constexpr int kIsNotRead = 5;
 
 // A kind whose reader and writer have drifted apart.
-struct DriftedNames : JsonNames<DriftedNames, BubbleDrawDescriptor> {
+struct DriftedFormat : JsonFormat<DriftedFormat, BubbleDrawDescriptor> {
   static constexpr std::string_view kMarker = ".turnBubble";
   template <class Keys, class Descriptor>
   static void List(Keys& keys, Descriptor& bubble) {
     keys.Integer("scene", bubble.scene);
   }
-  static bool Read(const std::string& name, BubbleDrawDescriptor& bubble) {
-    JsonNames::Read(name, bubble);
+  static bool ReadName(const std::string& name, BubbleDrawDescriptor& bubble) {
+    Read(PayloadOf(name), bubble);
     if (bubble.scene == kComesBackAsAnother) bubble.scene = kComesBack;
     return bubble.scene != kIsNotRead;
   }
@@ -30,7 +30,7 @@ std::string NameOrError(int scene) {
   BubbleDrawDescriptor bubble;
   bubble.scene = scene;
   try {
-    return EncodeName<DriftedNames>(bubble);
+    return EncodeName<DriftedFormat>(bubble);
   } catch (const EncodeError& error) {
     EXPECT_EQ(error.field(), "name");
     return error.what();
@@ -49,6 +49,22 @@ TEST(NameCodecTest, ValueThatWouldComeBackAsAnotherIsRefused) {
 TEST(NameCodecTest, NameThatWouldNotBeReadAtAllIsRefused) {
   EXPECT_EQ(NameOrError(kIsNotRead),
             "turnBubble: name: the reader would have decoded turnBubble {\"mode\":0,\"scene\":5}");
+}
+
+// Counts how often its key list runs.
+struct CountedFormat : JsonFormat<CountedFormat, BubbleDrawDescriptor> {
+  static constexpr std::string_view kMarker = ".turnBubble";
+  static inline int runs = 0;
+  template <class Keys, class Descriptor>
+  static void List(Keys& keys, Descriptor& bubble) {
+    ++runs;
+    keys.Integer("scene", bubble.scene);
+  }
+};
+
+TEST(NameCodecTest, KeyListRunsOnceToWriteOnceToReadBackAndOnceToCompare) {
+  EncodeName<CountedFormat>(BubbleDrawDescriptor());
+  EXPECT_EQ(CountedFormat::runs, 3);
 }
 
 }  // namespace

@@ -91,11 +91,11 @@ TEST(NestingTest, TextsThatAreNeverClosedDoNotParse) {
 // The kinds with a JSON payload, and what stands behind it in their names.
 std::vector<std::string> TailsOfJsonKinds() {
   std::vector<std::string> tails;
-  for (std::size_t i = 0; i < kBubbleMarkers.size(); ++i) {
-    const std::string grammar = InfoOf(static_cast<BubbleKind>(i)).grammar;
+  for (const BubbleKind kind : kBubbleKinds) {
+    const std::string grammar = InfoOf(kind).grammar;
     if (grammar.find("JSON object") == std::string::npos) continue;
     const bool has_direction = grammar.find("direction") != std::string::npos;
-    tails.push_back((has_direction ? "@1" : "") + std::string(kBubbleMarkers[i]));
+    tails.push_back((has_direction ? "@1" : "") + std::string(MarkerOf(kind)));
   }
   return tails;
 }

@@ -5,10 +5,17 @@
 
 #include <limits>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 namespace kavrix::test {
 namespace {
+
+static_assert(std::is_same_v<decltype(&SplitString),
+                             std::vector<std::string> (*)(const std::string&, const std::string&,
+                                                          WhitespaceHandling, SplitResult)>);
+static_assert(std::is_same_v<decltype(&StringToInt), bool (*)(const std::string&, int*)>);
+static_assert(std::is_same_v<decltype(&ToLowerASCII), std::string (*)(const std::string&)>);
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -72,21 +79,6 @@ TEST(SplitStringTest, NonEmptyLeavesOutFieldsThatAreEmptyAfterTrimming) {
   EXPECT_THAT(SplitString("", "_", WhitespaceHandling::kKeep, SplitResult::kNonEmpty), IsEmpty());
 }
 
-TEST(SplitFieldsTest, GivesTheSameFieldsAsSplitString) {
-  for (const std::string text : {"", "_", "a_b", "a_b_", "_a", "a__b", "a", " a _ "}) {
-    const auto fields = SplitFields<3>(text, '_');
-    const auto expected = Split(text, "_");
-    ASSERT_EQ(fields.count, expected.size()) << text;
-    for (std::size_t i = 0; i < fields.count; ++i) EXPECT_EQ(fields.at[i], expected[i]) << text;
-  }
-}
-
-TEST(SplitFieldsTest, MoreFieldsThanAskedForCountAsOneMore) {
-  EXPECT_EQ(SplitFields<2>("a.b", '.').count, 2U);
-  EXPECT_EQ(SplitFields<2>("a.b.", '.').count, 3U);
-  EXPECT_EQ(SplitFields<2>("a.b.c.d.e", '.').count, 3U);
-}
-
 TEST(StringToIntTest, ReadsDecimalIntegersOfTheWholeSigned32BitRange) {
   const std::pair<const char*, int> texts[] = {{"0", 0},
                                                {"-0", 0},
@@ -115,51 +107,11 @@ TEST(StringToIntTest, RefusesEverythingElseAndLeavesTheFieldUnchanged) {
     EXPECT_EQ(value, 99) << text;
   }
   int value = 99;
-  EXPECT_FALSE(StringToInt(std::string_view("12\0", 3), &value));
+  EXPECT_FALSE(StringToInt(std::string("12\0", 3), &value));
   EXPECT_EQ(value, 99);
 }
 
-TEST(LeadingIntTest, ReadsTheDigitsAfterBlanksAndASign) {
-  EXPECT_EQ(LeadingInt("12"), 12);
-  EXPECT_EQ(LeadingInt("-12"), -12);
-  EXPECT_EQ(LeadingInt("+12"), 12);
-  EXPECT_EQ(LeadingInt(" \t\n\v\f\r12"), 12);
-  EXPECT_EQ(LeadingInt("12abc"), 12);
-  EXPECT_EQ(LeadingInt("1.9"), 1);
-  EXPECT_EQ(LeadingInt("0x10"), 0);
-  EXPECT_EQ(LeadingInt(std::string_view("1\0002", 3)), 1);
-}
-
-TEST(LeadingIntTest, TextWithoutLeadingDigitsIsZero) {
-  for (const char* const text : {"", " ", "a12", "-", "+", "+-12", "-+12", "--12", "- 12", "."}) {
-    EXPECT_EQ(LeadingInt(text), 0) << text;
-  }
-}
-
-TEST(LeadingIntTest, KeepsTheLow32BitsOfALargerValue) {
-  EXPECT_EQ(LeadingInt("4294967301"), 5);
-  EXPECT_EQ(LeadingInt("2147483648"), std::numeric_limits<int>::min());
-  EXPECT_EQ(LeadingInt("-4294967301"), -5);
-}
-
-TEST(LeadingIntTest, ValueBeyond64BitsIsHeldAtTheEndOfThatRangeFirst) {
-  EXPECT_EQ(LeadingInt("99999999999999999999"), -1);
-  EXPECT_EQ(LeadingInt("-99999999999999999999"), 0);
-}
-
-// Texts of resource names are parts of these, with no NUL behind.
-TEST(IntegersTest, NothingBehindTheTextIsRead) {
-  EXPECT_EQ(LeadingInt(std::string_view("1234").substr(0, 2)), 12);
-  EXPECT_EQ(LeadingInt(std::string_view(" +34").substr(0, 3)), 3);
-  int value = 99;
-  EXPECT_TRUE(StringToInt(std::string_view("1234").substr(0, 2), &value));
-  EXPECT_EQ(value, 12);
-  const std::vector<char> plus = {'+'};  // no byte behind it, which the sanitizers watch
-  EXPECT_FALSE(StringToInt({plus.data(), 1}, &value));
-  EXPECT_EQ(LeadingInt({plus.data(), 1}), 0);
-}
-
-TEST(ToLowerAsciiTest, LowersAToZAlone) {
+TEST(ToLowerAsciiTest, LowersOnlyAToZ) {
   EXPECT_EQ(ToLowerASCII("ABCXYZ"), "abcxyz");
   EXPECT_EQ(ToLowerASCII("abc019@[`{_"), "abc019@[`{_");
   EXPECT_EQ(ToLowerASCII(""), "");

@@ -1,4 +1,4 @@
-#include "util/key_writer.h"
+#include "key_list/key_writer.h"
 
 #include <utility>
 
@@ -23,7 +23,7 @@ std::string Joined(const std::vector<std::string>& parts) {
 
 }  // namespace
 
-void JsonKeyWriter::Texts(std::string_view key, const std::vector<std::string>& texts) {
+void KeyWriter::Texts(std::string_view key, const std::vector<std::string>& texts) {
   std::vector<std::string> elements;
   elements.reserve(texts.size());
   for (const std::string& text : texts) {
@@ -32,21 +32,35 @@ void JsonKeyWriter::Texts(std::string_view key, const std::vector<std::string>& 
   AddArray(key, elements);
 }
 
-std::string JsonKeyWriter::ObjectWithout(const JsonKeyWriter& defaults) const {
-  std::vector<std::string> members;
-  for (std::size_t i = 0; i < entries_.size(); ++i) {
-    const Entry& entry = entries_[i];
-    if (entry.presence == Presence::kUnlessDefault && entry.json == defaults.entries_[i].json) continue;
-    members.push_back('"' + entry.key + "\":" + entry.json);
+std::string KeyWriter::Object(std::string_view left_out) const {
+  std::vector<std::string> parts;
+  for (const Member& member : members_) {
+    if (member.is_default || member.key == left_out) continue;
+    parts.push_back('"' + member.key + "\":" + member.json);
   }
-  return "{" + Joined(members) + "}";
+  return "{" + Joined(parts) + "}";
 }
 
-void JsonKeyWriter::AddArray(std::string_view key, const std::vector<std::string>& elements) {
-  Add(key, "[" + Joined(elements) + "]", Presence::kUnlessDefault);
+void KeyWriter::Add(std::string_view key, std::string json, bool is_default) {
+  members_.push_back({std::string(key), std::move(json), is_default});
 }
 
-std::string JsonKeyWriter::Quoted(std::string_view key, std::string_view text) {
+void KeyWriter::AddArray(std::string_view key, const std::vector<std::string>& elements) {
+  Add(key, "[" + Joined(elements) + "]", elements.empty());
+}
+
+void KeyWriter::SetField(std::size_t index, const char* name, std::string text) {
+  if (fields_.size() <= index) fields_.resize(index + 1);
+  fields_[index] = {name, std::move(text)};
+}
+
+void KeyWriter::NoteBadOf(const KeyWriter& item, const std::string& path) {
+  if (bad_ || !item.bad_) return;
+  bad_ = item.bad_;
+  bad_->field = path + bad_->field;
+}
+
+std::string KeyWriter::Quoted(std::string_view key, std::string_view text) {
   std::string quoted = "\"";
   std::size_t offset = 0;
   while (offset < text.size()) {

@@ -1,4 +1,4 @@
-#include "util/key_checker.h"
+#include "key_list/key_checker.h"
 
 #include <utility>
 
@@ -33,7 +33,7 @@ void KeyChecker::RequireAllRead() const {
   for (const std::string& key : object_.getMemberNames()) {
     if (read_.count(key) == 0)
       throw KeyError(path_ + key,
-                     "names of this kind do not carry this key; the reader would have passed over it");
+                     "names of this kind do not carry this key; the reader would have ignored it");
   }
 }
 

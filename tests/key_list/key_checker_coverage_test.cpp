@@ -3,8 +3,8 @@
 
 #include <cstdint>
 
+#include "key_list/key_checker.h"
 #include "util/json_util.h"
-#include "util/key_checker.h"
 
 namespace kavrix::test {
 namespace {

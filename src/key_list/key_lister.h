@@ -1,5 +1,5 @@
-#ifndef KAVRIX_UTIL_KEY_LISTER_H_
-#define KAVRIX_UTIL_KEY_LISTER_H_
+#ifndef KAVRIX_KEY_LIST_KEY_LISTER_H_
+#define KAVRIX_KEY_LIST_KEY_LISTER_H_
 
 #include <string>
 #include <string_view>
@@ -11,9 +11,9 @@ namespace kavrix {
 // One thing that a resource name carries: a key of its JSON object or a named field.
 struct KeyInfo {
   std::string key;  // "mode"; "cameras[].type" inside a list
-  std::string
-      type;  // "text", "integer", "integer, low 16 bits", "flag", "array of texts", "array of objects"
-  std::string rule;  // what a flag's integer means, such as "true when 0"; otherwise empty
+  // "text", "integer", "integer, low 16 bits", "flag", "array of texts", "array of objects"
+  std::string type;
+  std::string rule;  // "true when 0"; "-1 when absent"; empty where the type says all
 };
 
 // Runs a key list for what it names, without reading anything.
@@ -30,8 +30,9 @@ class KeyLister {
     Add(key, "text");
   }
   template <class Int>
-  void Integer(std::string_view key, Int&) {
-    Add(key, sizeof(Int) == 2 ? "integer, low 16 bits" : "integer");
+  void Integer(std::string_view key, Int&, int default_value = 0) {
+    Add(key, sizeof(Int) == 2 ? "integer, low 16 bits" : "integer",
+        default_value == 0 ? "" : std::to_string(default_value) + " when absent");
   }
   template <class Flag>
   void TrueWhenZero(std::string_view key, Flag&) {
@@ -46,7 +47,7 @@ class KeyLister {
     Add(key, "flag", "true when not 0");
   }
   template <class Items, class ItemKeys>
-  void Records(std::string_view key, Items&, ItemKeys item_keys) {
+  void Objects(std::string_view key, Items&, ItemKeys item_keys) {
     Add(key, "array of objects");
     path_ = std::string(key) + "[].";
     typename Items::value_type item;
@@ -83,4 +84,4 @@ class KeyLister {
 
 }  // namespace kavrix
 
-#endif  // KAVRIX_UTIL_KEY_LISTER_H_
+#endif  // KAVRIX_KEY_LIST_KEY_LISTER_H_

@@ -1,4 +1,4 @@
-#include "util/key_lister.h"
+#include "key_list/key_lister.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -56,6 +56,15 @@ TEST(KeyListerTest, ListsKeysInReadingOrderWithTheirTypesAndRules) {
                   KeyInfo{"is_main_map", "flag", "true when not 0"}, KeyInfo{"lines", "array of texts", ""}));
 }
 
+TEST(KeyListerTest, DefaultOtherThanZeroIsARule) {
+  KeyLister lister;
+  Members members;
+  lister.Integer("arrow", members.wide, -1);
+  lister.Integer("scene", members.wide, 0);
+  EXPECT_THAT(lister.keys(),
+              ElementsAre(KeyInfo{"arrow", "integer", "-1 when absent"}, KeyInfo{"scene", "integer", ""}));
+}
+
 TEST(KeyListerTest, ReadsNothing) {
   KeyLister lister;
   Members members;
@@ -70,7 +79,7 @@ TEST(KeyListerTest, ReadsNothing) {
 TEST(KeyListerTest, KeysInsideAListStandUnderItsPathAndLaterOnesDoNot) {
   KeyLister lister;
   Members members;
-  lister.Records("lights", members.lights, [](auto& keys, Light& light) {
+  lister.Objects("lights", members.lights, [](auto& keys, Light& light) {
     keys.Integer("type", light.type);
     keys.Text("text", light.text);
   });

@@ -1,5 +1,5 @@
-#ifndef KAVRIX_UTIL_KEY_READER_H_
-#define KAVRIX_UTIL_KEY_READER_H_
+#ifndef KAVRIX_KEY_LIST_KEY_READER_H_
+#define KAVRIX_KEY_LIST_KEY_READER_H_
 
 #include <array>
 #include <optional>
@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
+#include "util/fields.h"
 #include "util/json_util.h"
-#include "util/string_util.h"
 
 // A key list is a function template that names what a resource name carries, in reading order, by verbs of
 // its first argument. The readers below are what the decoder hands to it.
@@ -28,14 +28,14 @@ class JsonKeyReader {
     if (const auto found = JsonUtil::AsText(*value)) text = *found;
   }
 
-  // Narrowed to the member's width.
+  // Narrowed to the member's width. The member holds its default already: only writers need to be told.
   template <class Int>
-  void Integer(std::string_view key, Int& number) {
+  void Integer(std::string_view key, Int& number, [[maybe_unused]] int default_value = 0) {
     number = static_cast<Int>(IntOr(key, number));
   }
 
-  // Three rules for flags. The flag's own value, 0 or 1, stands in for an absent key: TrueWhenZero then
-  // inverts it.
+  // Three rules for flags. An absent key counts as the flag's own value, 0 or 1: TrueWhenZero then inverts
+  // it.
   void TrueWhenZero(std::string_view key, bool& flag) { flag = IntOr(key, flag ? 1 : 0) == 0; }
   void TrueWhenOne(std::string_view key, bool& flag) { flag = IntOr(key, flag ? 1 : 0) == 1; }
   void TrueWhenNonZero(std::string_view key, bool& flag) { flag = IntOr(key, flag ? 1 : 0) != 0; }
@@ -43,7 +43,7 @@ class JsonKeyReader {
   // Appends one item for each element of an array, whatever its type. `item_keys(keys, item)` is the item's
   // key list.
   template <class Item, class ItemKeys>
-  void Records(std::string_view key, std::vector<Item>& items, ItemKeys item_keys) {
+  void Objects(std::string_view key, std::vector<Item>& items, ItemKeys item_keys) {
     const Json::Value* const array = FindArray(key);
     if (array == nullptr) return;
     items.reserve(items.size() + array->size());
@@ -55,7 +55,7 @@ class JsonKeyReader {
     }
   }
 
-  // Appends the elements of an array that are texts and passes over the others.
+  // Appends the elements of an array that are texts; the others are ignored.
   void Texts(std::string_view key, std::vector<std::string>& texts) {
     const Json::Value* const array = FindArray(key);
     if (array == nullptr) return;
@@ -70,7 +70,8 @@ class JsonKeyReader {
     return value == nullptr ? current : JsonUtil::AsInt(*value).value_or(current);
   }
 
-  // One walk over the members and short compares cost half of what a look-up a key in the object's map does.
+  // One walk over the members and short compares cost half of what looking each key up in the object's map
+  // does.
   // An object with more members than any bubble kind knows keys is looked up in its map.
   const Json::Value* Find(std::string_view key) const {
     if (!member_count_) return JsonUtil::Find(object_, key);
@@ -89,10 +90,10 @@ class JsonKeyReader {
 
   const Json::Value& object_;
   std::array<JsonUtil::Member, kMostMembers> members_;
-  std::optional<std::size_t> member_count_;  // none: more than kMostMembers
+  std::optional<std::size_t> member_count_;  // nullopt: more than kMostMembers
 };
 
-// Hands a reader to `list` when the text is a JSON object; false when it is none.
+// Hands a reader to `list` when the text is a JSON object; false when it is not.
 template <class List>
 bool ReadJsonObject(std::string_view text, List list) {
   Json::Value root;
@@ -114,7 +115,7 @@ class FieldReader {
   template <class Int>
   void Integer(std::size_t index, const char*, Int& number) {
     int value = 0;
-    if (StringToInt(fields_[index], &value)) number = static_cast<Int>(value);
+    if (ReadInt(fields_[index], value)) number = static_cast<Int>(value);
   }
 
   // As atoi reads it, so a field that is no number stores 0. Narrowed to the member's width.
@@ -125,7 +126,7 @@ class FieldReader {
 
   void TrueWhenZero(std::size_t index, const char*, bool& flag) {
     int value = 0;
-    if (StringToInt(fields_[index], &value)) flag = value == 0;
+    if (ReadInt(fields_[index], value)) flag = value == 0;
   }
 
  private:
@@ -134,4 +135,4 @@ class FieldReader {
 
 }  // namespace kavrix
 
-#endif  // KAVRIX_UTIL_KEY_READER_H_
+#endif  // KAVRIX_KEY_LIST_KEY_READER_H_

@@ -1,4 +1,4 @@
-#include "util/key_reader.h"
+#include "key_list/key_reader.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -117,14 +117,14 @@ TEST_F(JsonKeyReaderTest, AbsentOrMistypedFlagKeyInvertsTrueWhenZeroAndKeepsTheO
   }
 }
 
-TEST_F(JsonKeyReaderTest, RecordsAppendsOneItemForEachElementWhateverItsType) {
+TEST_F(JsonKeyReaderTest, ObjectsAppendsOneItemForEachElementWhateverItsType) {
   JsonKeyReader reader = Reader(R"({"k":[{"n":5},null,"n",[],{"n":"6"},{}]})");
   std::vector<Item> items = {{9}};
-  reader.Records("k", items, ItemKeys);
+  reader.Objects("k", items, ItemKeys);
   EXPECT_THAT(items, ElementsAre(Item{9}, Item{5}, Item{}, Item{}, Item{}, Item{}, Item{}));
 }
 
-TEST_F(JsonKeyReaderTest, TextsAppendsTheTextsAndPassesOverTheRest) {
+TEST_F(JsonKeyReaderTest, TextsAppendsTheTextsAndIgnoresTheRest) {
   JsonKeyReader reader = Reader(R"({"k":["a",5,"",null,["b"],"a\u0000b"]})");
   std::vector<std::string> texts = {"earlier"};
   reader.Texts("k", texts);
@@ -138,7 +138,7 @@ TEST_F(JsonKeyReaderTest, ListKeysThatHoldNoArrayAppendNothing) {
     std::vector<std::string> texts;
     std::vector<Item> items;
     reader.Texts("k", texts);
-    reader.Records("k", items, ItemKeys);
+    reader.Objects("k", items, ItemKeys);
     EXPECT_THAT(texts, IsEmpty()) << object;
     EXPECT_THAT(items, IsEmpty()) << object;
   }

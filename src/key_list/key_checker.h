@@ -1,5 +1,5 @@
-#ifndef KAVRIX_UTIL_KEY_CHECKER_H_
-#define KAVRIX_UTIL_KEY_CHECKER_H_
+#ifndef KAVRIX_KEY_LIST_KEY_CHECKER_H_
+#define KAVRIX_KEY_LIST_KEY_CHECKER_H_
 
 #include <cstdint>
 #include <limits>
@@ -23,7 +23,7 @@ class KeyError : public std::runtime_error {
   std::string key_;
 };
 
-// Reads an object as JsonKeyReader does, but takes nothing that the decoder would change or pass over: throws
+// Reads an object as JsonKeyReader does, but takes nothing that the decoder would change or ignore: throws
 // KeyError for an unknown key, a value of another type, an integer that its member cannot hold, a flag that
 // is not 0 or 1; the text says what the decoder would have made of it. An absent key counts as the decoder
 // counts it.
@@ -35,7 +35,7 @@ class KeyChecker {
   void Text(std::string_view key, std::string& text);
 
   template <class Int>
-  void Integer(std::string_view key, Int& number) {
+  void Integer(std::string_view key, Int& number, [[maybe_unused]] int default_value = 0) {
     number = static_cast<Int>(
         CheckedInteger(key, number, std::numeric_limits<Int>::min(), std::numeric_limits<Int>::max()));
   }
@@ -51,7 +51,7 @@ class KeyChecker {
   }
 
   template <class Item, class ItemKeys>
-  void Records(std::string_view key, std::vector<Item>& items, ItemKeys item_keys) {
+  void Objects(std::string_view key, std::vector<Item>& items, ItemKeys item_keys) {
     const Json::Value* const array = TakeArray(key);
     if (array == nullptr) return;
     for (const Json::Value& element : *array) {
@@ -99,4 +99,4 @@ class KeyChecker {
 
 }  // namespace kavrix
 
-#endif  // KAVRIX_UTIL_KEY_CHECKER_H_
+#endif  // KAVRIX_KEY_LIST_KEY_CHECKER_H_

@@ -1,0 +1,14 @@
+#include "map_resource/encode_error.h"
+
+#include <utility>
+
+namespace kavrix {
+
+EncodeError::EncodeError(const std::string& kind, const std::string& field, const std::string& problem,
+                         std::optional<BadCharacter> character)
+    : runtime_error(kind + ": " + field + ": " + problem),
+      kind_(kind),
+      field_(field),
+      character_(std::move(character)) {}
+
+}  // namespace kavrix
