@@ -5,13 +5,11 @@
 
 #include "bench/plain/plain_transform.h"
 #include "fuzz/fuzzing.h"
-#include "map_resource/bubble_markers.h"
+#include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
 #include "tests/support/record_collector.h"
 
 namespace kavrix::fuzz {
-
-enum class EntryPoint { kBubble, kMarker };
 
 // All that came of one name.
 struct Outcome {
@@ -73,8 +71,8 @@ inline Outcome DecodePlainly(const std::string& name, EntryPoint entry_point,
 
 // Recognises the kind as plainly as can be.
 inline std::optional<BubbleKind> FindBubbleKindPlainly(std::string_view name) {
-  for (std::size_t i = 0; i < kBubbleMarkers.size(); ++i) {
-    if (name.find(kBubbleMarkers[i]) != std::string_view::npos) return static_cast<BubbleKind>(i);
+  for (const BubbleKind kind : kBubbleKinds) {
+    if (name.find(MarkerOf(kind)) != std::string_view::npos) return kind;
   }
   return std::nullopt;
 }

@@ -31,6 +31,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string_view payload = fuzz::AsText(data + 1, size - 1);
   fuzz::CheckParse(payload);
   const std::string name = MapResourceManager::kavrix_resource_prefix + std::string(payload) + marker;
-  fuzz::CheckName(name, marker == kMarkerNameTail ? fuzz::EntryPoint::kMarker : fuzz::EntryPoint::kBubble);
+  fuzz::CheckName(name, marker == kMarkerNameTail ? EntryPoint::kMarker : EntryPoint::kBubble);
   return 0;
 }

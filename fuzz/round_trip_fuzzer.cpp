@@ -1,11 +1,12 @@
 // The encoder: what a name carries is encoded again, and what the input carries as JSON fields. The first
-// byte picks the marker; the rest stands between prefix and marker, or is the fields.
+// byte picks the kind; the rest stands between prefix and marker, or is the fields.
 
 #include "fuzz/decoding.h"
 #include "fuzz/vocabulary.h"
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/encode_error.h"
 #include "map_resource/map_resource_manager.h"
+#include "tests/support/carried_fields.h"
 #include "util/json_util.h"
 
 namespace kavrix::fuzz {
@@ -13,65 +14,69 @@ namespace {
 
 class RoundTrip {
  public:
-  explicit RoundTrip(std::size_t number)
-      : entry_point_(number < kBubbleMarkers.size() ? EntryPoint::kBubble : EntryPoint::kMarker),
-        kind_(static_cast<BubbleKind>(number)),
-        codec_((entry_point_ == EntryPoint::kBubble ? InfoOf(kind_) : kMarkerNameInfo).codec) {}
+  explicit RoundTrip(const BubbleKindInfo& info) : info_(info) {}
 
   void CheckName(const std::string& name) const {
     const std::optional<std::string> fields = ReadFields(name);
     if (!fields) return;
-    const std::optional<std::string> encoded = Encode(*fields);
+    const std::optional<std::string> encoded = Encode(Parsed(*fields));
     if (!encoded) return;
-    CheckEncoded(*encoded, *fields);
-    if (entry_point_ == EntryPoint::kBubble && FindBubbleKind(name) != kind_) return;
+    if (GoesElsewhere(name)) return;
     Require(*Decoded(name) == *Decoded(*encoded), "a name and its canonical form decode to the same");
   }
 
-  void CheckFields(const std::string& fields) const {
-    const std::optional<std::string> encoded = Encode(fields);
-    if (!encoded) return;
-    const std::optional<std::string> read = ReadFields(*encoded);
+  void CheckFields(const std::string& text) const {
+    Json::Value fields;
+    std::string error;
+    if (!JsonUtil::ParseStrictly(text, fields, error)) return;
+    const std::optional<std::string> name = Encode(fields);
+    Require(name.has_value() || !test::MustBeTaken(info_, fields), "fields that a name can carry are taken");
+    if (!name) return;
+    Require(!GoesElsewhere(*name), "a name goes to its kind");
+    const std::optional<std::string> read = ReadFields(*name);
     Require(read.has_value(), "an encoded name can be read");
-    CheckEncoded(*encoded, *read);
+    Require(test::CompleteFields(info_, Parsed(*read)) == test::CompleteFields(info_, fields),
+            "an encoded name carries what it was made of");
+    Require(Encode(Parsed(*read)) == name, "equal fields give equal names");
   }
 
  private:
-  void CheckEncoded(const std::string& name, const std::string& fields) const {
-    if (entry_point_ == EntryPoint::kBubble)
-      Require(FindBubbleKind(name) == kind_, "a name goes to its kind");
-    Require(ReadFields(name) == fields, "an encoded name carries what it was made of");
-    Require(Encode(fields) == name, "equal fields give equal names");
+  bool GoesElsewhere(const std::string& name) const {
+    if (info_.entry_point == EntryPoint::kMarker) return false;
+    const std::optional<BubbleKind> kind = FindBubbleKind(name);
+    return !kind || &InfoOf(*kind) != &info_;
   }
 
-  // None: the name does not parse, or holds a text that is not UTF-8.
+  // nullopt: the name does not parse, or holds a text that is not UTF-8.
   std::optional<std::string> ReadFields(const std::string& name) const {
     try {
-      return codec_.read_fields(name);
+      return info_.codec.read_fields(name);
     } catch (const EncodeError&) {
       return std::nullopt;
     }
   }
 
-  // None: not JSON, or refused.
-  std::optional<std::string> Encode(const std::string& fields) const {
+  static Json::Value Parsed(const std::string& fields) {
     Json::Value value;
     std::string error;
-    if (!JsonUtil::ParseStrictly(fields, value, error)) return std::nullopt;
+    Require(JsonUtil::ParseStrictly(fields, value, error), "the fields of a name are JSON");
+    return value;
+  }
+
+  // nullopt: refused.
+  std::optional<std::string> Encode(const Json::Value& fields) const {
     try {
-      return codec_.encode_fields(value);
+      return info_.codec.encode_fields(fields);
     } catch (const EncodeError&) {
       return std::nullopt;
     }
   }
 
   std::shared_ptr<BubbleDrawDescriptor> Decoded(const std::string& name) const {
-    return Decode(name, entry_point_, std::make_shared<BubbleDrawDescriptor>()).out;
+    return Decode(name, info_.entry_point, std::make_shared<BubbleDrawDescriptor>()).out;
   }
 
-  EntryPoint entry_point_;
-  BubbleKind kind_;
-  const NameCodec& codec_;
+  const BubbleKindInfo& info_;
 };
 
 }  // namespace
@@ -80,11 +85,10 @@ class RoundTrip {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace kavrix;
   if (size == 0) return -1;
-  const std::vector<std::string>& markers = fuzz::Words().markers;
-  const std::size_t number = *data % markers.size();
+  const BubbleKindInfo& info = *AllKindInfos()[*data % AllKindInfos().size()];
   const std::string payload(fuzz::AsText(data + 1, size - 1));
-  const fuzz::RoundTrip round_trip(number);
-  round_trip.CheckName(MapResourceManager::kavrix_resource_prefix + payload + markers[number]);
+  const fuzz::RoundTrip round_trip(info);
+  round_trip.CheckName(MapResourceManager::kavrix_resource_prefix + payload + std::string(info.marker));
   round_trip.CheckFields(payload);
   return 0;
 }
