@@ -6,17 +6,11 @@
 #include <algorithm>
 
 #include "descriptors/flat_members.h"
+#include "util/escape.h"
 #include "util/utf8.h"
 
 namespace kavrix::tools {
 namespace {
-
-std::string Escape(char32_t c) {
-  if (c == '\n') return "\\n";
-  if (c == '\t') return "\\t";
-  if (c == '\r') return "\\r";
-  return fmt::format("\\u{:04x}", static_cast<std::uint32_t>(c));
-}
 
 class Page {
  public:
@@ -90,7 +84,7 @@ std::string Printable(std::string_view text) {
     if (!piece.is_valid) {
       printable += "\xEF\xBF\xBD";
     } else if (IsControl(piece.code_point)) {
-      printable += Escape(piece.code_point);
+      AppendControl(printable, piece.code_point);
     } else {
       printable += text.substr(0, piece.length);
     }

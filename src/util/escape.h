@@ -1,0 +1,22 @@
+#ifndef KAVRIX_UTIL_ESCAPE_H_
+#define KAVRIX_UTIL_ESCAPE_H_
+
+#include <string>
+#include <string_view>
+
+namespace kavrix {
+
+// Appends a text from a name with whatever could end the line, begin another or move the cursor escaped, as
+// util/log_line.h lists it: AppendEscaped(line, "a\nb\\c") appends a\nb\\c.
+void AppendEscaped(std::string& line, std::string_view text);
+
+// The same in double quotes, with those of the text escaped too: AppendQuoted(line, "say \"hi\"") appends
+// "say \"hi\"".
+void AppendQuoted(std::string& line, std::string_view text);
+
+// Appends the escape of one control character, such as \n or \u001b.
+void AppendControl(std::string& line, char32_t c);
+
+}  // namespace kavrix
+
+#endif  // KAVRIX_UTIL_ESCAPE_H_
