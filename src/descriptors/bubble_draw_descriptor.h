@@ -40,10 +40,16 @@ class BubbleDrawDescriptor {
   bool is_force = false;
 };
 
-// The members of the base class alone, whatever the object's own type is.
+// Writes the members of the base class alone, whatever the object's own type is, on one line:
+//
+//   BubbleDrawDescriptor{scene:0, content:"km 3", lan:"", ..., style_scale:[1.500000, 1.500000], ...}
+//
+// Texts are escaped as util/log_line.h lists it, quotes too, so that none can end the line or look like another
+// member. Of the stream's state only the notation and the precision of floats count, and all of it is left as
+// it was. What memory runs out for leaves as std::bad_alloc, with nothing written.
 std::ostream& operator<<(std::ostream& stream, const BubbleDrawDescriptor& descriptor);
 
-// All members of the object, on one line.
+// Writes all members of the object in the same form.
 std::ostream& WriteAllMembers(std::ostream& stream, const BubbleDrawDescriptor& descriptor);
 
 template <class Descriptor, std::enable_if_t<std::is_base_of_v<BubbleDrawDescriptor, Descriptor> &&

@@ -1,5 +1,7 @@
 """What a decoded bubble holds: its members in order, their text in a log record and their form in JSON."""
 
+import unicodedata
+
 BASE_MEMBERS = (
     ("scene", 0), ("content", b""), ("lan", b""), ("bubble_kind", 0), ("type", 0), ("direction", 0),
     ("mode_flag", False), ("style_name", b""), ("icon", b""), ("style_word", 0), ("style_scale", (0.0, 0.0)),
@@ -50,6 +52,9 @@ OWN_MEMBERS = {
 }
 
 
+LINE_AND_DIRECTION_CONTROLS = "\u200e\u200f\u2028\u2029\u202a\u202b\u202c\u202d\u202e\u2066\u2067\u2068\u2069"
+
+
 class Descriptor:
     def __init__(self, type_name):
         self.type_name = type_name
@@ -90,7 +95,7 @@ def _log(value):
     if isinstance(value, bool):
         return b"true" if value else b"false"
     if isinstance(value, bytes):
-        return b'"' + value + b'"'
+        return b'"' + _escaped(value) + b'"'
     if isinstance(value, float):
         return b"%.6f" % value
     if isinstance(value, dict):
@@ -98,6 +103,24 @@ def _log(value):
     if isinstance(value, (list, tuple)):
         return b"[" + b", ".join(_log(element) for element in value) + b"]"
     return b"%d" % value
+
+
+def _escaped(text):
+    """A text as a log record quotes it: on one line, its end told from what it holds."""
+    return "".join(map(_escape, text.decode("utf-8", "surrogateescape"))).encode()
+
+
+def _escape(character):
+    code_point = ord(character)
+    if 0xDC80 <= code_point <= 0xDCFF:  # a byte that is not UTF-8
+        return f"\\x{code_point - 0xDC00:02x}"
+    if character in '"\\':
+        return "\\" + character
+    if character in "\n\r\t":
+        return {"\n": "\\n", "\r": "\\r", "\t": "\\t"}[character]
+    if unicodedata.category(character) == "Cc" or character in LINE_AND_DIRECTION_CONTROLS:
+        return f"\\u{code_point:04x}"
+    return character
 
 
 def _json(value):

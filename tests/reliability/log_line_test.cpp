@@ -105,7 +105,8 @@ TEST_F(StreamSinkTest, ATextOfAPayloadCannotForgeARecord) {
   Decode(R"({"content":"a\nroutine \u2028 forged","mode":0}.trafficBubble)");
   const auto lines = Lines();
   ASSERT_EQ(lines.size(), 2U);
-  EXPECT_NE(lines[1].find(R"(content:"a\nroutine \u2028 forged")"), std::string::npos);
+  // Escaped in the descriptor's text, whose escapes the formatter tells from its own.
+  EXPECT_NE(lines[1].find(R"(content:"a\\nroutine \\u2028 forged")"), std::string::npos);
 }
 
 TEST_F(DecodeTest, TheFacadeItselfHandsOverTheExactText) {
