@@ -34,15 +34,19 @@ class Page {
   std::string text_;
 };
 
-std::string ValueText(const FlatMember& member) {
-  if (const auto* text = std::get_if<std::string>(&member.value)) return "\"" + Printable(*text) + "\"";
-  if (const auto* number = std::get_if<std::int64_t>(&member.value)) {
-    const bool is_word = member.path.find("style_") == 0 || member.path.find("_style_") != std::string::npos;
-    return is_word ? fmt::format("{} ({:#010x})", *number, *number) : std::to_string(*number);
+// How a value of each type is shown.
+struct ValueText {
+  std::string operator()(std::int64_t number) const { return std::to_string(number); }
+  std::string operator()(std::uint32_t word) const { return fmt::format("{} ({:#010x})", word, word); }
+  std::string operator()(MarkerType type) const { return MarkerTypeName(type); }
+  std::string operator()(bool flag) const { return flag ? "true" : "false"; }
+  std::string operator()(float real) const { return fmt::format("{}", real); }
+  std::string operator()(const std::string& text) const {
+    std::string quoted;
+    AppendQuoted(quoted, ToValidUtf8(text));
+    return quoted;
   }
-  if (const auto* flag = std::get_if<bool>(&member.value)) return *flag ? "true" : "false";
-  return fmt::format("{}", std::get<float>(member.value));
-}
+};
 
 void AddMembers(const BubbleDrawDescriptor& descriptor, const TextOptions& options, Page& page) {
   std::vector<FlatMember> members = FlatMembers(descriptor);
@@ -54,7 +58,7 @@ void AddMembers(const BubbleDrawDescriptor& descriptor, const TextOptions& optio
   std::size_t width = 0;
   for (const FlatMember& member : members) width = std::max(width, member.path.size());
   for (const FlatMember& member : members) {
-    page.Indented(fmt::format("{:<{}}  {}", member.path, width, ValueText(member)));
+    page.Indented(fmt::format("{:<{}}  {}", member.path, width, std::visit(ValueText(), member.value)));
   }
 }
 

@@ -53,6 +53,7 @@ class TextWriter : public MemberVisitor {
   }
 
   void Integer(const char* name, std::int64_t value) override { AppendInteger(Begin(name), value); }
+  void Code(const char* name, MarkerType value) override { Begin(name) += MarkerTypeName(value); }
   void Flag(const char* name, bool value) override { Begin(name) += value ? "true" : "false"; }
   void Real(const char* name, float value) override { AppendReal(Begin(name), value, format_); }
   void Text(const char* name, const std::string& value) override { AppendQuoted(Begin(name), value); }
@@ -105,7 +106,7 @@ void BubbleDrawDescriptor::VisitBaseMembers(MemberVisitor& visitor) const {
   visitor.Flag("mode_flag", mode_flag);
   visitor.Text("style_name", style_name);
   visitor.Text("icon", icon);
-  visitor.Integer("style_word", style_word);
+  visitor.Word("style_word", style_word);
   visitor.BeginList("style_scale");
   for (const float scale : style_scale) visitor.Real("", scale);
   visitor.EndList();

@@ -31,9 +31,9 @@ class CameraDrawDescriptor : public BubbleDrawDescriptor {
     visitor.Integer("distance", distance);
     visitor.Text("snap_text", snap_text);
     visitor.BeginList("plain_style_values");
-    for (const std::uint32_t value : plain_style_values) visitor.Integer("", value);
+    for (const std::uint32_t value : plain_style_values) visitor.Word("", value);
     visitor.EndList();
-    visitor.Integer("mode_style_value", mode_style_value);
+    visitor.Word("mode_style_value", mode_style_value);
   }
 
   std::vector<Camera> cameras;

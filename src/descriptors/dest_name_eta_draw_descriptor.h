@@ -14,10 +14,10 @@ class DestNameEtaDrawDescriptor : public BubbleDrawDescriptor {
   const char* TypeName() const override { return "DestNameEtaDrawDescriptor"; }
   void VisitOwnMembers(MemberVisitor& visitor) const override {
     visitor.Text("sub_text", sub_text);
-    visitor.Integer("second_style_value", second_style_value);
-    visitor.Integer("second_mode_style_value", second_mode_style_value);
-    visitor.Integer("third_mode_style_value", third_mode_style_value);
-    visitor.Integer("fourth_mode_style_value", fourth_mode_style_value);
+    visitor.Word("second_style_value", second_style_value);
+    visitor.Word("second_mode_style_value", second_mode_style_value);
+    visitor.Word("third_mode_style_value", third_mode_style_value);
+    visitor.Word("fourth_mode_style_value", fourth_mode_style_value);
   }
 
   std::string sub_text;  // the second text

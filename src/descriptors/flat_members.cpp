@@ -10,6 +10,8 @@ class Flattener : public MemberVisitor {
   explicit Flattener(std::vector<FlatMember>& members) : members_(members) {}
 
   void Integer(const char* name, std::int64_t value) override { Add(name, value); }
+  void Word(const char* name, std::uint32_t value) override { Add(name, value); }
+  void Code(const char* name, MarkerType value) override { Add(name, value); }
   void Flag(const char* name, bool value) override { Add(name, value); }
   void Real(const char* name, float value) override { Add(name, value); }
   void Text(const char* name, const std::string& value) override { Add(name, value); }

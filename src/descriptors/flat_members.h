@@ -10,10 +10,11 @@
 
 namespace kavrix {
 
-// One plain value of a descriptor under the path to it, such as "style_scale[1]" or "cameras[0].speed".
+// One plain value of a descriptor under the path to it, such as "style_scale[1]" or "cameras[0].speed". An
+// unsigned value is a style word.
 struct FlatMember {
   std::string path;
-  std::variant<std::int64_t, bool, float, std::string> value;
+  std::variant<std::int64_t, std::uint32_t, MarkerType, bool, float, std::string> value;
 };
 
 inline bool operator==(const FlatMember& a, const FlatMember& b) {

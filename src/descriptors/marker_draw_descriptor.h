@@ -14,7 +14,7 @@ class MarkerDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override { return "MarkerDrawDescriptor"; }
   void VisitOwnMembers(MemberVisitor& visitor) const override {
-    visitor.Integer("marker_type", marker_type);
+    visitor.Code("marker_type", MarkerType(marker_type));
     visitor.Text("name", name);
     visitor.Integer("resource_id", resource_id);
     visitor.Flag("is_main_map", is_main_map);

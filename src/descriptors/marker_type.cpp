@@ -41,10 +41,13 @@ const char* NameOf(MarkerType type) {
 
 }  // namespace
 
-std::ostream& operator<<(std::ostream& stream, const MarkerType& type) {
+std::string MarkerTypeName(MarkerType type) {
   const char* const name = NameOf(type);
-  if (name == nullptr) return stream << static_cast<std::int32_t>(type);
-  return stream << name;
+  return name == nullptr ? std::to_string(static_cast<std::int32_t>(type)) : name;
+}
+
+std::ostream& operator<<(std::ostream& stream, const MarkerType& type) {
+  return stream << MarkerTypeName(type);
 }
 
 }  // namespace kavrix

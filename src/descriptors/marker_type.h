@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <ostream>
+#include <string>
 
 namespace kavrix {
 
@@ -26,7 +27,8 @@ enum class MarkerType : std::int32_t {
   Favorite = 14,
 };
 
-// Writes the name of the kind, such as "Poi", or the number of a value that is no kind.
+// The name of the kind, such as "Poi", or the number of a value that is no kind.
+std::string MarkerTypeName(MarkerType type);
 std::ostream& operator<<(std::ostream& stream, const MarkerType& type);
 
 }  // namespace kavrix

@@ -4,14 +4,19 @@
 #include <cstdint>
 #include <string>
 
+#include "descriptors/marker_type.h"
+
 namespace kavrix {
 
 // Receives the members of a descriptor in declaration order. Inside a list the names are empty; an item is a
-// plain value or a record of named members.
+// plain value or a record of named members. A style word (a colour, bits, whatever the drawing side makes of
+// them) and a marker type are integers to a visitor that makes no difference.
 class MemberVisitor {
  public:
   virtual ~MemberVisitor() = default;
   virtual void Integer(const char* name, std::int64_t value) = 0;
+  virtual void Word(const char* name, std::uint32_t value) { Integer(name, value); }
+  virtual void Code(const char* name, MarkerType value) { Integer(name, static_cast<std::int64_t>(value)); }
   virtual void Flag(const char* name, bool value) = 0;
   virtual void Real(const char* name, float value) = 0;
   virtual void Text(const char* name, const std::string& value) = 0;

@@ -18,7 +18,7 @@ class TrafficDrawDescriptor : public BubbleDrawDescriptor {
     visitor.Real("style_float_1", style_float_1);
     visitor.Real("style_float_2", style_float_2);
     visitor.Real("style_float_3", style_float_3);
-    visitor.Integer("style_word_2", style_word_2);
+    visitor.Word("style_word_2", style_word_2);
   }
 
   // The "nav_mode" of a name that does not carry one. It selects the style record and is not stored.

@@ -73,7 +73,7 @@ TEST(BubbleDrawDescriptorTest, EveryTypeBeginsWithDefaultsAndPrintsItsMembersInD
   ExpectNew<HDLaneChangeBubbleDrawDescriptor>("HDLaneChangeBubbleDrawDescriptor",
                                               "target_lane:0, distance:0");
   ExpectNew<MarkerDrawDescriptor>("MarkerDrawDescriptor",
-                                  "marker_type:0, name:\"\", resource_id:0, is_main_map:false");
+                                  "marker_type:Poi, name:\"\", resource_id:0, is_main_map:false");
 }
 
 TEST(BubbleDrawDescriptorTest, NewLightHasNoTurnArrow) {

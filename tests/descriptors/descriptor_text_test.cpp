@@ -155,6 +155,19 @@ TEST(DescriptorTextTest, FloatsPrintInTheNotationAndPrecisionOfTheStream) {
   }
 }
 
+TEST(DescriptorTextTest, MarkerTypePrintsAsItsName) {
+  MarkerDrawDescriptor marker;
+  EXPECT_THAT(Printed(marker), HasSubstr("is_force:false, marker_type:Poi, name:\"\""));
+  marker.marker_type = 14;
+  EXPECT_THAT(Printed(marker), HasSubstr("marker_type:Favorite, "));
+  marker.marker_type = 15;
+  EXPECT_THAT(Printed(marker), HasSubstr("marker_type:15, "));
+  marker.marker_type = -1;
+  std::ostringstream stream;
+  stream << std::hex << std::showpos << marker;
+  EXPECT_THAT(stream.str(), HasSubstr("marker_type:-1, "));
+}
+
 TEST(DescriptorTextTest, AStreamThatCannotTakeTheTextSaysSo) {
   std::ostream nowhere(nullptr);
   nowhere << Traffic();

@@ -31,6 +31,12 @@ TEST(MarkerTypeTest, NumberThatIsNoKindIsPrintedAsSuch) {
   EXPECT_EQ(Printed(MarkerType(std::numeric_limits<std::int32_t>::min())), "-2147483648");
 }
 
+TEST(MarkerTypeTest, NumberIsTheSameUnderEveryStateOfTheStream) {
+  std::ostringstream stream;
+  stream << std::hex << std::showbase << std::showpos << MarkerType(255);
+  EXPECT_EQ(stream.str(), "255");
+}
+
 TEST(MarkerTypeTest, PrintingReturnsItsStream) {
   std::ostringstream stream;
   stream << MarkerType::Home << '_' << MarkerType::Poi;

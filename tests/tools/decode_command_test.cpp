@@ -188,6 +188,33 @@ TEST(DecodeCommandTest, TextEscapesWhatWouldForgeLinesOrColours) {
   EXPECT_THAT(result.output, Not(HasSubstr("\x1b")));
 }
 
+TEST(DecodeCommandTest, TextShowsStyleWordsInHexadecimalToo) {
+  const std::string text = RunTool({"decode", "--format", "text", "--all", kGoodName}).output;
+  EXPECT_THAT(text, HasSubstr("    style_word      4293216333 (0xffe5484d)\n"));
+  EXPECT_THAT(text, HasSubstr("    style_word_2    4294967295 (0xffffffff)\n"));
+  EXPECT_THAT(text, HasSubstr("    bubble_kind     1\n"));
+}
+
+TEST(DecodeCommandTest, MarkerTypeIsANameInTextAndANumberInJson) {
+  const std::string name = kPrefix + R"({"marker_type":5,"name":"A"}.marker)";
+  EXPECT_THAT(RunTool({"decode", "--marker", "--format", "text", name}).output,
+              HasSubstr("    marker_type  ChargingStation\n"));
+  EXPECT_EQ(
+      RunTool({"decode", "--marker", name}).JsonLines().at(0).at("descriptor").at("own").at("marker_type"),
+      5);
+  const std::string unknown = kPrefix + R"({"marker_type":99}.marker)";
+  EXPECT_THAT(RunTool({"decode", "--marker", "--format", "text", unknown}).output,
+              HasSubstr("    marker_type  99\n"));
+}
+
+TEST(DecodeCommandTest, TextOfAMemberEndsAtItsQuote) {
+  const std::string name = kPrefix + R"({"content":"a\" lan \"\\\n\u001b"}.trafficBubble)";
+  const std::string text = RunTool({"decode", "--format", "text", name}).output;
+  EXPECT_THAT(text, HasSubstr("    content         "
+                              R"("a\" lan \"\\\n\u001b")"
+                              "\n"));
+}
+
 TEST(DecodeCommandTest, OnATerminalTextComesInColourUnlessNoColorIsSet) {
   const ToolResult colour = RunShell("script -qec \"$TOOL decode nonsense\" /dev/null");
   EXPECT_THAT(colour.output, HasSubstr("\x1b[1mnonsense\x1b[0m\r\n  kind        \x1b[2mnone\x1b[0m\r\n"));
