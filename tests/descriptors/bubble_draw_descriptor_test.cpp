@@ -109,19 +109,6 @@ TEST(BubbleDrawDescriptorTest, CompanionKeepsItsOwnSceneApartFromTheBases) {
   EXPECT_EQ(base.scene, 0);
 }
 
-TEST(BubbleDrawDescriptorTest, MembersHaveTheirWidths) {
-  const BubbleDrawDescriptor bubble;
-  EXPECT_TRUE((std::is_same_v<decltype(bubble.scene), std::int32_t>));
-  EXPECT_TRUE((std::is_same_v<decltype(bubble.bubble_kind), std::uint16_t>));
-  EXPECT_TRUE((std::is_same_v<decltype(bubble.type), std::int16_t>));
-  EXPECT_TRUE((std::is_same_v<decltype(bubble.direction), std::int16_t>));
-  EXPECT_TRUE((std::is_same_v<decltype(bubble.style_word), std::uint32_t>));
-  EXPECT_TRUE((std::is_same_v<decltype(bubble.style_scale)::value_type, float>));
-  EXPECT_TRUE((std::is_same_v<decltype(IndoorEntriesBubbleDrawDescriptor::entries_value), std::int16_t>));
-  EXPECT_TRUE((std::is_same_v<decltype(MarkerDrawDescriptor::marker_type), std::int16_t>));
-  EXPECT_TRUE((std::is_same_v<decltype(TrafficDrawDescriptor::style_word_2), std::uint32_t>));
-}
-
 TEST(BubbleDrawDescriptorTest, SharedPointerToTheBaseCastsToItsOwnTypeAlone) {
   const std::shared_ptr<BubbleDrawDescriptor> bubble = std::make_shared<TurnArrowBubbleDrawDescriptor>();
   const auto turn = std::dynamic_pointer_cast<TurnArrowBubbleDrawDescriptor>(bubble);
