@@ -1,6 +1,10 @@
 #ifndef KAVRIX_CONFIG_BUBBLE_LAYER_CONFIG_CONTAINER_H_
 #define KAVRIX_CONFIG_BUBBLE_LAYER_CONFIG_CONTAINER_H_
 
+#include <array>
+#include <cstddef>
+#include <string_view>
+
 #include "config/bubble_style_record.h"
 
 namespace kavrix {
@@ -55,6 +59,38 @@ void ForEachStyleRecord(Config& config, Visit visit) {
   visit("unread_style_19", config.unread_style_19);
   visit("unread_style_20", config.unread_style_20);
   visit("traffic_scene_style", config.traffic_scene_style);
+}
+
+// Which values of a record are floats.
+struct FloatValues {
+  std::string_view record;
+  std::array<std::size_t, 7> numbers;  // 0 where there are fewer
+};
+
+inline constexpr std::array<FloatValues, 12> kFloatValues = {{
+    {"route_name_style", {3}},
+    {"traffic_style", {3, 4, 5, 6, 8, 9, 10}},
+    {"companion_style", {6, 7}},
+    {"eta_style", {2, 8}},
+    {"eta_scene_style", {2, 8}},
+    {"route_label_style", {4}},
+    {"traffic_nav_style", {3, 4, 5, 6, 8, 9, 10}},
+    {"route_name_scene_style", {3}},
+    {"hd_long_solid_style", {3}},
+    {"indoor_entries_style", {3}},
+    {"light_wait_style", {3}},
+    {"traffic_scene_style", {3, 4, 5, 6, 8, 9, 10}},
+}};
+
+// Whether value `number`, from 1, of the record with this member name is a float. Every other value is a
+// word.
+constexpr bool IsFloatValue(std::string_view record, std::size_t number) {
+  for (const FloatValues& floats : kFloatValues) {
+    for (const std::size_t float_number : floats.numbers) {
+      if (floats.record == record && float_number == number) return number != 0;
+    }
+  }
+  return false;
 }
 
 }  // namespace kavrix

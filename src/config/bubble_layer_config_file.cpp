@@ -1,46 +1,14 @@
 #include "config/bubble_layer_config_file.h"
 
-#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
-#include <string_view>
-#include <vector>
 
 #include "util/json_util.h"
 #include "util/utf8.h"
 
 namespace kavrix {
 namespace {
-
-// Which values of which records are floats; every other value is a word.
-struct FloatValues {
-  std::string_view record;
-  std::vector<std::size_t> numbers;
-};
-
-bool IsFloat(std::string_view record, std::size_t number) {
-  static const std::vector<FloatValues> kFloatValues = {
-      {"route_name_style", {3}},
-      {"traffic_style", {3, 4, 5, 6, 8, 9, 10}},
-      {"companion_style", {6, 7}},
-      {"eta_style", {2, 8}},
-      {"eta_scene_style", {2, 8}},
-      {"route_label_style", {4}},
-      {"traffic_nav_style", {3, 4, 5, 6, 8, 9, 10}},
-      {"route_name_scene_style", {3}},
-      {"hd_long_solid_style", {3}},
-      {"indoor_entries_style", {3}},
-      {"light_wait_style", {3}},
-      {"traffic_scene_style", {3, 4, 5, 6, 8, 9, 10}},
-  };
-  for (const FloatValues& floats : kFloatValues) {
-    if (floats.record == record) {
-      return std::find(floats.numbers.begin(), floats.numbers.end(), number) != floats.numbers.end();
-    }
-  }
-  return false;
-}
 
 std::string Found(const Json::Value& value) {
   std::string text = JsonUtil::ToText(value);
@@ -105,7 +73,7 @@ void ReadValues(const std::string& record_name, const Json::Value& values, Recor
   for (const Json::Value& value : values) {
     ++number;
     const std::string where = record_name + " value " + std::to_string(number);
-    if (IsFloat(record_name, number)) {
+    if (IsFloatValue(record_name, number)) {
       record.SetFloat(number, ReadFloat(where, value));
     } else {
       record.SetWord(number, ReadWord(where, value));

@@ -68,6 +68,22 @@ TEST(BubbleLayerConfigContainerTest, VisitReachesEachMemberUnderItsOwnName) {
   EXPECT_EQ(config.traffic_scene_style.name, "traffic_scene_style");
 }
 
+// Known without a table that is made at start and destroyed at exit.
+static_assert(IsFloatValue("eta_style", 2) && IsFloatValue("eta_style", 8));
+static_assert(!IsFloatValue("eta_style", 3) && !IsFloatValue("eta_style", 0));
+static_assert(!IsFloatValue("turn_style", 2) && !IsFloatValue("", 3));
+
+TEST(BubbleLayerConfigContainerTest, FloatValuesAreThoseOfRecordsThatExist) {
+  const BubbleLayerConfigContainer config;
+  for (const FloatValues& floats : kFloatValues) {
+    std::size_t value_count = 0;
+    ForEachStyleRecord(config, [&](const std::string& name, const auto& record) {
+      if (name == floats.record) value_count = record.kValueCount;
+    });
+    for (const std::size_t number : floats.numbers) EXPECT_LE(number, value_count) << floats.record;
+  }
+}
+
 TEST(BubbleLayerConfigContainerTest, IsAPlainValue) {
   EXPECT_TRUE(std::is_copy_constructible_v<BubbleLayerConfigContainer>);
   EXPECT_TRUE(std::is_copy_assignable_v<BubbleLayerConfigContainer>);

@@ -31,8 +31,8 @@ class CountingContext : public KavrixContext {
 // The word that value `number` of record `record` (1 to 21) holds in a DecodeTest: no two are the same.
 constexpr std::uint32_t WordOf(std::uint32_t record, std::uint32_t number) { return record * 1000 + number; }
 
-// The float that a cell holds where a kind reads it as one: see SetFloats.
-constexpr float FloatOf(int record, int number) {
+// The float that a cell holds where a kind reads it as one.
+constexpr float FloatOf(std::uint32_t record, std::uint32_t number) {
   return static_cast<float>(record) * 100 + static_cast<float>(number) + 0.5F;
 }
 
@@ -108,21 +108,13 @@ class DecodeTest : public ::testing::Test {
       ++record_number;
       record.name = name;
       for (std::uint32_t number = 1; number <= record.kValueCount; ++number) {
-        record.SetWord(number, WordOf(record_number, number));
+        if (IsFloatValue(name, number)) {
+          record.SetFloat(number, FloatOf(record_number, number));
+        } else {
+          record.SetWord(number, WordOf(record_number, number));
+        }
       }
     });
-    SetFloats(config.route_name_style, 1, {3});
-    SetFloats(config.traffic_style, 2, {3, 4, 5, 6, 8, 9, 10});
-    SetFloats(config.companion_style, 3, {6, 7});
-    SetFloats(config.eta_style, 5, {2, 8});
-    SetFloats(config.eta_scene_style, 6, {2, 8});
-    SetFloats(config.route_label_style, 7, {4});
-    SetFloats(config.traffic_nav_style, 9, {3, 4, 5, 6, 8, 9, 10});
-    SetFloats(config.route_name_scene_style, 10, {3});
-    SetFloats(config.hd_long_solid_style, 14, {3});
-    SetFloats(config.indoor_entries_style, 16, {3});
-    SetFloats(config.light_wait_style, 17, {3});
-    SetFloats(config.traffic_scene_style, 21, {3, 4, 5, 6, 8, 9, 10});
     return config;
   }
 
@@ -131,14 +123,6 @@ class DecodeTest : public ::testing::Test {
   std::shared_ptr<BubbleDrawDescriptor> out_;
   std::string name_;
   RecordCollector collector_;
-
- private:
-  template <class Record>
-  static void SetFloats(Record& record, int record_number, std::initializer_list<int> numbers) {
-    for (const int number : numbers) {
-      record.SetFloat(static_cast<std::size_t>(number), FloatOf(record_number, number));
-    }
-  }
 };
 
 }  // namespace kavrix::test
