@@ -12,10 +12,12 @@ std::string Load(std::string_view text) {
   try {
     const BubbleLayerConfigFile file = ParseBubbleLayerConfig(*heap_text);
     std::string all = file.context_name + ' ' + std::to_string(file.multi_light_type);
-    ForEachStyleRecord(file.bubble_layer, [&](const char*, const auto& record) {
+    const auto add = [&](const char*, const auto& record) {
       all += '\n' + record.name;
       for (const std::uint32_t word : record.values) all += ' ' + std::to_string(word);
-    });
+    };
+    ForEachStyleRecord(file.bubble_layer, add);
+    add("marker_bubble", file.marker_bubble);
     return all;
   } catch (const ConfigError& error) {
     return std::string("refused: ") + error.what();

@@ -41,6 +41,7 @@ def config_inputs(root):
     yield json.dumps({**config, "bubble_layer": {}}).encode()
     for name, record in config["bubble_layer"].items():
         yield json.dumps({"bubble_layer": {name: record}}, ensure_ascii=False).encode()
+    yield json.dumps({"marker_bubble": config["marker_bubble"]}, ensure_ascii=False).encode()
 
 
 def stream_inputs(names):

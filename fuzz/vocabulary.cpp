@@ -17,7 +17,8 @@ std::string LastKey(const std::string& path) {
 std::vector<std::string> AllKeys() {
   KeyLister lister;
   for (const BubbleKindInfo* const info : AllKindInfos()) info->codec.list_keys(lister);
-  std::set<std::string> keys = {"context_name", "multi_light_type", "bubble_layer", "name", "values"};
+  std::set<std::string> keys = {"context_name", "multi_light_type", "bubble_layer", "marker_bubble", "name",
+                                "values"};
   for (const KeyInfo& info : lister.keys()) keys.insert(LastKey(info.key));
   BubbleLayerConfigContainer config;
   ForEachStyleRecord(config, [&](const char* name, const auto&) { keys.insert(name); });

@@ -9,22 +9,20 @@
 namespace kavrix::tools {
 namespace {
 
-std::shared_ptr<KavrixContext> FromFile(BubbleLayerConfigFile file,
-                                        const std::optional<std::string>& context_name) {
+TransformSetup FromFile(BubbleLayerConfigFile file, const std::optional<std::string>& context_name) {
   auto context = std::make_shared<KavrixContext>(context_name.value_or(file.context_name));
   context->multi_light_type = file.multi_light_type;
   context->SetBubbleLayerConfig(std::move(file.bubble_layer));
-  return context;
+  return {context, std::move(file.marker_bubble)};
 }
 
 }  // namespace
 
-std::shared_ptr<KavrixContext> MakeDefaultContext(const std::optional<std::string>& context_name) {
+TransformSetup LoadDefaultConfig(const std::optional<std::string>& context_name) {
   return FromFile(ParseBubbleLayerConfig(kDefaultConfig), context_name);
 }
 
-std::shared_ptr<KavrixContext> MakeContext(const std::string& config_path,
-                                           const std::optional<std::string>& context_name) {
+TransformSetup LoadConfig(const std::string& config_path, const std::optional<std::string>& context_name) {
   const std::string text = ReadFile(config_path);
   try {
     return FromFile(ParseBubbleLayerConfig(text), context_name);

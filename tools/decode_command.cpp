@@ -47,10 +47,10 @@ std::string FieldsLine(const std::string& name, EntryPoint entry_point) {
 
 int Run(const DecodeOptions& options) {
   if (options.prefix) MapResourceManager::kavrix_resource_prefix = options.prefix->c_str();
-  const auto context = options.config_path ? MakeContext(*options.config_path, options.context_name)
-                                           : MakeDefaultContext(options.context_name);
+  const TransformSetup setup = options.config_path ? LoadConfig(*options.config_path, options.context_name)
+                                                   : LoadDefaultConfig(options.context_name);
   const EntryPoint entry_point = options.marker ? EntryPoint::kMarker : EntryPoint::kBubble;
-  Decoder decoder(context, entry_point);
+  Decoder decoder(setup, entry_point);
 
   const bool as_text = options.format == "text";
   const char* const no_colour = std::getenv("NO_COLOR");

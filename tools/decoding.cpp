@@ -27,10 +27,11 @@ bool TellsOfFailedParse(const CapturedRecord& record, const std::string& head) {
 
 }  // namespace
 
-Decoder::Decoder(const std::shared_ptr<KavrixContext>& context, EntryPoint entry_point)
-    : transform_(context),
-      record_head_("[Kavrix][" + context->context_name + "]"),
+Decoder::Decoder(const TransformSetup& setup, EntryPoint entry_point)
+    : transform_(setup.context),
+      record_head_("[Kavrix][" + setup.context->context_name + "]"),
       entry_point_(entry_point) {
+  transform_.SetMarkerBubbleConfig(setup.marker_bubble);
   logging::SetLoggerInstance(logging::kavrix_log_instance_id_, {std::make_shared<CapturingSink>(), {}, {}});
 }
 
@@ -62,9 +63,13 @@ std::string StyleRecordUsed(const std::string& name) {
   ForEachStyleRecord(named_after_themselves, [](const char* member, auto& record) { record.name = member; });
   const auto context = std::make_shared<KavrixContext>("");
   context->SetBubbleLayerConfig(std::move(named_after_themselves));
+  MarkerBubbleConfig marker_bubble;
+  marker_bubble.name = "marker_bubble";
+  MapResourceTransform transform(context);
+  transform.SetMarkerBubbleConfig(std::move(marker_bubble));
   std::shared_ptr<BubbleDrawDescriptor> descriptor;
   try {
-    MapResourceTransform(context).GetBubbleDrawDescriptor(name, descriptor);
+    transform.GetBubbleDrawDescriptor(name, descriptor);
   } catch (const std::exception&) {
     // What was set before the exception stays set.
   }

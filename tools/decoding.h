@@ -8,6 +8,7 @@
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
+#include "tools/context.h"
 
 namespace kavrix::tools {
 
@@ -31,7 +32,7 @@ struct Decoded {
 // Decodes names as a client would, with every log record captured. Installs itself as the process's log sink.
 class Decoder {
  public:
-  Decoder(const std::shared_ptr<KavrixContext>& context, EntryPoint entry_point);
+  Decoder(const TransformSetup& setup, EntryPoint entry_point);
 
   Decoded Decode(std::string name);
 

@@ -131,7 +131,7 @@ std::string ToMarkdown(const Kind& kind) {
                       KindCodeText(kind.info), WayText(kind.info.way));
   text += "| carries | type |\n| --- | --- |\n";
   for (const KeyInfo& key : kind.keys) text += fmt::format("| `{}` | {} |\n", key.key, KeyText(key));
-  Decoder decoder(MakeDefaultContext(), kind.info.entry_point);
+  Decoder decoder(LoadDefaultConfig(), kind.info.entry_point);
   const std::string fields = kind.info.codec.read_fields(kind.sample).value_or("{}");
   text +=
       fmt::format("\nPlacing, for `kavrix-resource encode`:\n\n```\n{{\"kind\":\"{}\",\"fields\":{}}}\n```\n",

@@ -61,13 +61,13 @@ void ForEachStyleRecord(Config& config, Visit visit) {
   visit("traffic_scene_style", config.traffic_scene_style);
 }
 
-// Which values of a record are floats.
+// Which values of a record are floats, those of the marker bubble's record too.
 struct FloatValues {
   std::string_view record;
   std::array<std::size_t, 7> numbers;  // 0 where there are fewer
 };
 
-inline constexpr std::array<FloatValues, 12> kFloatValues = {{
+inline constexpr std::array<FloatValues, 13> kFloatValues = {{
     {"route_name_style", {3}},
     {"traffic_style", {3, 4, 5, 6, 8, 9, 10}},
     {"companion_style", {6, 7}},
@@ -80,6 +80,7 @@ inline constexpr std::array<FloatValues, 12> kFloatValues = {{
     {"indoor_entries_style", {3}},
     {"light_wait_style", {3}},
     {"traffic_scene_style", {3, 4, 5, 6, 8, 9, 10}},
+    {"marker_bubble", {3}},
 }};
 
 // Whether value `number`, from 1, of the record with this member name is a float. Every other value is a

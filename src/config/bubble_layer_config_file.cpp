@@ -131,8 +131,11 @@ BubbleLayerConfigFile ParseBubbleLayerConfig(const std::string& json_text) {
       file.multi_light_type = ReadInt(key, value);
     } else if (key == "bubble_layer") {
       ReadBubbleLayer(value, file.bubble_layer);
+    } else if (key == "marker_bubble") {
+      ReadRecord(key, value, file.marker_bubble);
     } else {
-      FailUnknown("the configuration", key, "\"context_name\", \"multi_light_type\" or \"bubble_layer\"");
+      FailUnknown("the configuration", key,
+                  "\"context_name\", \"multi_light_type\", \"bubble_layer\" or \"marker_bubble\"");
     }
   }
   return file;

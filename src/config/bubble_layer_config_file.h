@@ -6,6 +6,7 @@
 #include <string>
 
 #include "config/bubble_layer_config_container.h"
+#include "config/marker_bubble_config.h"
 
 namespace kavrix {
 
@@ -14,6 +15,7 @@ struct BubbleLayerConfigFile {
   std::string context_name;
   std::int32_t multi_light_type = 0;
   BubbleLayerConfigContainer bubble_layer;
+  MarkerBubbleConfig marker_bubble;  // for MapResourceTransform::SetMarkerBubbleConfig
 };
 
 // Says what of the text could not be used: the record, the value's number, what was found, what was expected.
@@ -24,7 +26,8 @@ class ConfigError : public std::runtime_error {
 
 // Reads a configuration from the JSON text
 //   {"context_name": text, "multi_light_type": integer,
-//    "bubble_layer": {record: {"name": text, "values": [value 1, value 2, ...]}, ...}}
+//    "bubble_layer": {record: {"name": text, "values": [value 1, value 2, ...]}, ...},
+//    "marker_bubble": {"name": text, "values": [...]}}
 // with the records by their member names. Everything may be left out, nothing may be added. A float value is
 // any number that a float can hold; a word is an integer from 0 to 4294967295 or a text such as "0xffff0000".
 // Throws ConfigError for the first thing that does not fit; nothing is loaded then.

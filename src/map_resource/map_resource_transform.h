@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "config/marker_bubble_config.h"
 #include "context/kavrix_context.h"
@@ -18,6 +19,10 @@ class MapResourceTransform {
  public:
   // `context` must not be null; it is shared and outlives every call.
   explicit MapResourceTransform(std::shared_ptr<KavrixContext> context);
+
+  // Sets the style of marker bubbles, which is not the context's; without it they have an empty name and
+  // zeros. To be called before the first decode: it does not wait for other threads.
+  void SetMarkerBubbleConfig(MarkerBubbleConfig config) { marker_bubble_config_ = std::move(config); }
 
   // Recognises the kind by its marker and decodes the name into a new descriptor in `out`. A name of a known
   // kind always leaves a descriptor to draw, however broken its payload is (a safe-warning name whose payload

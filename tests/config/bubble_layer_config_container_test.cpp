@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+#include "config/marker_bubble_config.h"
+
 namespace kavrix::test {
 namespace {
 
@@ -76,7 +78,7 @@ static_assert(!IsFloatValue("turn_style", 2) && !IsFloatValue("", 3));
 TEST(BubbleLayerConfigContainerTest, FloatValuesAreThoseOfRecordsThatExist) {
   const BubbleLayerConfigContainer config;
   for (const FloatValues& floats : kFloatValues) {
-    std::size_t value_count = 0;
+    std::size_t value_count = floats.record == "marker_bubble" ? MarkerBubbleConfig::kValueCount : 0;
     ForEachStyleRecord(config, [&](const std::string& name, const auto& record) {
       if (name == floats.record) value_count = record.kValueCount;
     });

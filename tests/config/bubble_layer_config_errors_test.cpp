@@ -51,7 +51,7 @@ TEST(BubbleLayerConfigErrorsTest, RootThatIsNoObject) {
 TEST(BubbleLayerConfigErrorsTest, UnknownKey) {
   EXPECT_EQ(ErrorOf(R"({"bubble_layers":{}})"),
             "the configuration: unknown key \"bubble_layers\", expected \"context_name\", "
-            "\"multi_light_type\" or \"bubble_layer\"");
+            "\"multi_light_type\", \"bubble_layer\" or \"marker_bubble\"");
 }
 
 TEST(BubbleLayerConfigErrorsTest, ContextNameThatIsNoText) {
@@ -97,6 +97,21 @@ TEST(BubbleLayerConfigErrorsTest, NameThatIsNoText) {
 
 TEST(BubbleLayerConfigErrorsTest, ValuesThatAreNoArray) {
   EXPECT_EQ(ErrorOfValues("traffic_style", "5"), "traffic_style.values: expected an array, found 5");
+}
+
+TEST(BubbleLayerConfigErrorsTest, MarkerBubbleIsCheckedAsTheRecordsOfTheLayerAre) {
+  EXPECT_EQ(ErrorOf(R"({"marker_bubble":[]})"), "marker_bubble: expected an object, found []");
+  EXPECT_EQ(ErrorOf(R"({"marker_bubble":{"style":1}})"),
+            "marker_bubble: unknown key \"style\", expected \"name\" or \"values\"");
+  EXPECT_EQ(ErrorOf(R"({"marker_bubble":{"name":1}})"), "marker_bubble.name: expected a text, found 1");
+  EXPECT_EQ(ErrorOf(R"({"marker_bubble":{"values":[0,1.5]}})"),
+            std::string("marker_bubble value 2: expected ") + kWord + ", found 1.5");
+  EXPECT_EQ(ErrorOf(R"({"marker_bubble":{"values":[0,0,"1"]}})"),
+            "marker_bubble value 3: expected a number, found \"1\"");
+  EXPECT_EQ(ErrorOf(R"({"marker_bubble":{"values":[0,0,0,0,0]}})"),
+            "marker_bubble value 5: expected at most 4 values, found 5");
+  EXPECT_EQ(ErrorOfLayer(R"("marker_bubble":{})"),
+            "bubble_layer: unknown key \"marker_bubble\", expected a record such as \"traffic_style\"");
 }
 
 TEST(BubbleLayerConfigErrorsTest, TooManyValues) {

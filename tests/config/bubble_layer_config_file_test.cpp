@@ -43,6 +43,19 @@ TEST(BubbleLayerConfigFileTest, EveryKeyIsRead) {
   EXPECT_EQ(file.bubble_layer.traffic_style.Float(3), 1.0F);
 }
 
+TEST(BubbleLayerConfigFileTest, MarkerBubbleHasARecordOfItsOwn) {
+  const MarkerBubbleConfig record =
+      ParseBubbleLayerConfig(R"({"marker_bubble":{"name":"m","values":[1,"0xff000002",1,1]}})").marker_bubble;
+  EXPECT_EQ(record.name, "m");
+  EXPECT_THAT(record.values, ElementsAre(1U, 0xFF000002U, 0x3F800000U, 1U));
+}
+
+TEST(BubbleLayerConfigFileTest, MarkerBubbleLeftOutIsEmpty) {
+  const MarkerBubbleConfig record = ParseBubbleLayerConfig("{}").marker_bubble;
+  EXPECT_EQ(record.name, "");
+  EXPECT_THAT(record.values, Each(0U));
+}
+
 TEST(BubbleLayerConfigFileTest, RecordsLeftOutAndMissingValuesAreZero) {
   const auto layer = WithRecord("turn_style", "[5]").bubble_layer;
   EXPECT_THAT(layer.turn_style.values, ElementsAre(5U, 0U));
@@ -142,6 +155,8 @@ TEST(BubbleLayerConfigFileTest, BundledConfigurationLoadsAndNamesEveryRecordThat
     const bool is_read = name.rfind("unread_", 0) != 0;
     EXPECT_EQ(!record.name.empty(), is_read) << name;
   });
+  EXPECT_EQ(file.marker_bubble.name, "marker_bubble");
+  EXPECT_GT(file.marker_bubble.Float(3), 0.0F);
 }
 
 }  // namespace

@@ -8,16 +8,6 @@ using ::testing::ElementsAre;
 constexpr char kTrafficTag[] = "KavrixMapLayerMgr_BubbleTraffic";
 constexpr char kFunction[] = "ParseMarkerBubbleResourceName";
 
-// The transform's own style of marker bubbles has no setter. An explicit instantiation may name the private
-// member, so the tests reach it without the class opening up.
-MarkerBubbleConfig& StyleOf(MapResourceTransform& transform);
-
-template <MarkerBubbleConfig MapResourceTransform::*member>
-struct StyleAccess {
-  friend MarkerBubbleConfig& StyleOf(MapResourceTransform& transform) { return transform.*member; }
-};
-template struct StyleAccess<&MapResourceTransform::marker_bubble_config_>;
-
 class MarkerBubbleTest : public DecodeTest {
  protected:
   const BubbleDrawDescriptor& DecodeMarkerBubble(const std::string& payload) {
@@ -26,12 +16,13 @@ class MarkerBubbleTest : public DecodeTest {
   }
 
   void ConfigureStyle() {
-    auto& style = StyleOf(transform_);
+    MarkerBubbleConfig style;
     style.name = "marker_style";
     style.SetWord(1, 91);
     style.SetWord(2, 92);
     style.SetFloat(3, 9.5F);
     style.SetWord(4, 94);
+    transform_.SetMarkerBubbleConfig(style);
   }
 };
 
@@ -74,11 +65,17 @@ TEST_F(MarkerBubbleTest, StyleIsEmptyUntilItIsConfigured) {
   }
 }
 
+TEST_F(MarkerBubbleTest, LaterStyleReplacesTheEarlierOne) {
+  ConfigureStyle();
+  transform_.SetMarkerBubbleConfig({});
+  EXPECT_EQ(DecodeMarkerBubble("{}").style_name, "");
+  EXPECT_EQ(Base().style_word, 0U);
+}
+
 TEST_F(MarkerBubbleTest, StyleIsCopiedAndServesTheNextName) {
   ConfigureStyle();
   DecodeMarkerBubble("{}");
   EXPECT_EQ(DecodeMarkerBubble(R"({"scene":2})").style_name, "marker_style");
-  EXPECT_EQ(StyleOf(transform_).name, "marker_style");
 }
 
 TEST_F(MarkerBubbleTest, BrokenPayloadGetsNoStyle) {

@@ -2,7 +2,7 @@
 
 from descriptors import narrowed
 from envelope import leading_int, to_int
-from json_kinds import read_direction_behind, start
+from json_kinds import common_style, read_direction_behind, start
 
 
 def fields_and_direction(call, counts, read):
@@ -30,11 +30,6 @@ def store_scene(call, text):
     value = to_int(text)
     if value is not None:
         call.out.base["scene"] = value
-
-
-def common_style(call, record_name):
-    record = call.configuration.record(record_name)
-    call.out.base.update(style_name=record.name, style_word=record.word(2), style_scale=(record.real(3),) * 2)
 
 
 def route_name(call):

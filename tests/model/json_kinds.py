@@ -54,6 +54,11 @@ def store_direction(call, text):
         call.out.base["direction"] = narrowed(value)
 
 
+def common_style(call, record_name):
+    record = call.configuration.record(record_name)
+    call.out.base.update(style_name=record.name, style_word=record.word(2), style_scale=(record.real(3),) * 2)
+
+
 def traffic(call):
     base, own = start(call, "TrafficDrawDescriptor", 1)
     function = "ParseTrafficBubbleResourceName"
@@ -129,6 +134,7 @@ def marker_bubble(call):
     read_mode(keys, base)
     read_direction(keys, base)
     read_texts(keys, base, "content")
+    common_style(call, "marker_bubble")
 
 
 def via_circle(call):

@@ -4,21 +4,21 @@ import dataclasses
 import json
 import struct
 
-# Record name and number of values, in the order of the container.
+# Record name and number of values: those of the container in its order, then the one that stands beside it.
 RECORDS = (
     ("route_name_style", 4), ("traffic_style", 12), ("companion_style", 8), ("camera_style", 18),
     ("eta_style", 12), ("eta_scene_style", 12), ("route_label_style", 4), ("camera_scene_style", 18),
     ("traffic_nav_style", 14), ("route_name_scene_style", 4), ("turn_style", 2), ("unread_style_12", 18),
     ("unread_style_13", 2), ("hd_long_solid_style", 4), ("unread_style_15", 2), ("indoor_entries_style", 4),
     ("light_wait_style", 4), ("unread_style_18", 2), ("unread_style_19", 2), ("unread_style_20", 2),
-    ("traffic_scene_style", 11),
+    ("traffic_scene_style", 11), ("marker_bubble", 4),
 )
 
 # Which values of a record are floats; all others are words.
 FLOATS = {
     **dict.fromkeys(
         ("route_name_style", "route_name_scene_style", "indoor_entries_style", "light_wait_style",
-         "hd_long_solid_style"), {3}),
+         "hd_long_solid_style", "marker_bubble"), {3}),
     **dict.fromkeys(("traffic_style", "traffic_nav_style", "traffic_scene_style"), {3, 4, 5, 6, 8, 9, 10}),
     "companion_style": {6, 7},
     "eta_style": {2, 8},
@@ -56,19 +56,22 @@ class Configuration:
 
     def write(self, path, random):
         """Writes the file that the tool reads; `random` picks between equal ways to write a value."""
-        layer = {}
+        records = {}
         for name, record in self.records.items():
             floats = FLOATS.get(name, ())
             values = [
                 value if number in floats else random.choice((value, f"0x{value:x}", f"0x{value:08x}"))
                 for number, value in enumerate(record.values, 1)
             ]
-            layer[name] = {"name": record.name.decode(), "values": values}
+            records[name] = {"name": record.name.decode(), "values": values}
+        marker_bubble = records.pop("marker_bubble", None)
         document = {
             "context_name": self.context_name.decode(),
             "multi_light_type": self.multi_light_type,
-            "bubble_layer": layer,
+            "bubble_layer": records,
         }
+        if marker_bubble:
+            document["marker_bubble"] = marker_bubble
         with open(path, "w", encoding="utf-8") as file:
             json.dump(document, file, ensure_ascii=random.choice((True, False)), indent=2)
 

@@ -141,6 +141,17 @@ TEST(DecodeCommandTest, FloatsReadBackToTheSameFloat) {
   EXPECT_THAT(result.output, HasSubstr(R"("style_scale":[0.1,0.1])"));
 }
 
+TEST(DecodeCommandTest, MarkerBubblesHaveTheStyleOfTheConfiguration) {
+  const std::string name = kPrefix + "{}.markerBubble";
+  const std::string config = R"({"marker_bubble":{"name":"m","values":[0,7,0.5]}})";
+  const ToolResult result =
+      RunShell("printf '%s' '" + config + "' | \"$TOOL\" decode --config /dev/stdin '" + name + "'");
+  EXPECT_THAT(result.output,
+              HasSubstr(R"("style_name":"m","icon":"","style_word":7,"style_scale":[0.5,0.5])"));
+  EXPECT_THAT(RunTool({"decode", "--format", "text", name}).output,
+              HasSubstr("  style       marker_bubble\n"));
+}
+
 TEST(DecodeCommandTest, ContextNameAndPrefixAreTheUsers) {
   const auto line =
       RunTool({"decode", "--context-name", "", "--prefix", "p:", R"(p:{"content":"c"}.trafficBubble)"})
