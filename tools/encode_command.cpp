@@ -8,6 +8,7 @@
 #include "map_resource/map_resource_manager.h"
 #include "tools/bulk.h"
 #include "util/json_util.h"
+#include "util/strict_json.h"
 
 namespace kavrix::tools {
 namespace {
@@ -42,7 +43,7 @@ std::string EncodeLine(const std::string& line) {
   const auto kind_name = kind != nullptr ? JsonUtil::AsText(*kind) : std::nullopt;
   if (!kind_name || fields == nullptr || bubble.size() != 2) {
     throw std::runtime_error("expected {\"kind\": text, \"fields\": object} and nothing else, found " +
-                             JsonUtil::ToText(bubble));
+                             JsonUtil::Excerpt(JsonUtil::SourceOf(bubble, line)));
   }
   return EncodeKind(std::string(*kind_name), *fields);
 }

@@ -3,9 +3,8 @@
 #include <json/reader.h>
 #include <json/writer.h>
 
-#include <memory>
-
 #include "util/json_nesting.h"
+#include "util/strict_json.h"
 
 // Some JsonCpp versions mark the legacy reader deprecated. Its accept set is the contract, so it stays.
 #if defined(__GNUC__)
@@ -25,29 +24,14 @@ bool ParseObject(std::string_view text, Json::Value& root) {
   }
 }
 
-namespace {
-
-// "* Line 1, Column 5\n  Missing ..." as "Line 1, Column 5: Missing ..."; of several errors the first.
-std::string OnOneLine(const std::string& report) {
-  const std::size_t end_of_place = report.find("\n  ");
-  if (end_of_place == std::string::npos) return report;  // the message of an exception
-  const std::size_t begin = end_of_place + 3;
-  return report.substr(2, end_of_place - 2) + ": " + report.substr(begin, report.find('\n', begin) - begin);
-}
-
-}  // namespace
-
 bool ParseStrictly(const std::string& text, Json::Value& root, std::string& error) {
-  Json::CharReaderBuilder builder;
-  Json::CharReaderBuilder::strictMode(&builder.settings_);
-  const std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
   try {
-    if (reader->parse(text.data(), text.data() + text.size(), &root, &error)) return true;
-  } catch (const Json::Exception& exception) {
-    error = exception.what();
+    root = ReadStrictly(text);
+    return true;
+  } catch (const JsonError& json_error) {
+    error = json_error.what();
+    return false;
   }
-  error = OnOneLine(error);
-  return false;
 }
 
 const Json::Value* Find(const Json::Value& object, std::string_view key) {
@@ -86,7 +70,7 @@ std::string ToText(const Json::Value& value) {
   Json::StreamWriterBuilder builder;
   builder["indentation"] = "";
   builder["emitUTF8"] = true;
-  return Json::writeString(builder, value);
+  return Excerpt(Json::writeString(builder, value));
 }
 
 std::string StringValue(const Json::Value& object, const std::string& key, const std::string& default_value) {

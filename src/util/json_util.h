@@ -22,8 +22,8 @@ inline constexpr std::size_t kDeepestValue = 256;
 // text with a value deeper than kDeepestValue does not parse.
 bool ParseObject(std::string_view text, Json::Value& root);
 
-// Parses `text` strictly: no comments, nothing after the root, no key twice. On false `error` says where and
-// what.
+// Parses `text`, an object or an array, as the JSON standard has it; no locale changes what is read. On false
+// `error` says in which line and column, what was expected and what was found. util/strict_json.h has more.
 bool ParseStrictly(const std::string& text, Json::Value& root, std::string& error);
 
 // The member `key` of `object`; null when `object` is no object or has no such member.
@@ -66,7 +66,7 @@ std::optional<double> AsDouble(const Json::Value& value);
 // The bytes of the value, NUL included, when it is a text; they live as long as the value.
 std::optional<std::string_view> AsText(const Json::Value& value);
 
-// The value as one line of JSON text, for messages.
+// The value as one line of JSON text, cut after 60 characters, for messages.
 std::string ToText(const Json::Value& value);
 
 // The member `key` of `object` when it exists and is a text, else `default_value`.

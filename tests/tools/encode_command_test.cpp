@@ -72,7 +72,14 @@ TEST(EncodeCommandTest, RefusesWhatNamesCannotCarryAndGoesOn) {
        R"(expected {"kind": text, "fields": object} and nothing else, found {"kind":"turnBubble"})"},
       {R"({"kind":"turnBubble","fields":{"lan":"a","lan":"b"}})",
        "not valid JSON: Line 1, Column 42: Duplicate key: 'lan'"},
-      {"", "not valid JSON: Line 1, Column 1: Syntax error: value, object or array expected."},
+      {"", "not valid JSON: Line 1, Column 1: expected an object or an array, found the end"},
+      {R"({"kind":"turnBubble","fields":{"distance":01}})",
+       "not valid JSON: Line 1, Column 44: expected no digit after a leading 0, found '1'"},
+      {R"({"kind":"turnBubble","fields":{"distance":-}})",
+       "not valid JSON: Line 1, Column 44: expected a digit, found '}'"},
+      {"{\"kind\":\"turnBubble\",\"fields\":{\"lan\":\"a\tb\"}}",
+       "not valid JSON: Line 1, Column 40: expected no control character in a string, found U+0009"},
+      {R"({"kind":"turnBubble"} {})", "not valid JSON: Line 1, Column 23: expected the end, found '{'"},
       {R"({"kind":"nameBubble","fields":{"content":"two\nlines"}})",
        "the name holds a newline, which would end it here; --null ends names in NUL"},
   };
@@ -94,6 +101,17 @@ TEST(EncodeCommandTest, WithNullNamesMayHoldNewlines) {
   EXPECT_EQ(
       RunTool({"encode", "--null"}, R"({"kind":"nameBubble","fields":{"content":"two\nlines"}})").output,
       kPrefix + "two\nlines_1_0@0.nameBubble\0"s);
+}
+
+TEST(EncodeCommandTest, LongNumbersAndTextsGiveShortMessages) {
+  const std::string digits(100'000, '7');
+  const ToolResult result =
+      RunTool({"encode", "--kind", "turnBubble"}, R"({"distance":)" + digits + "}\n" + R"({"distance":")" +
+                                                      digits + "\"}\n" + "[" + digits + "\n");
+  EXPECT_EQ(result.status, 1);
+  EXPECT_LT(result.errors.size(), 600U) << result.errors.substr(0, 1000);
+  EXPECT_THAT(RunTool({"encode"}, "{\"kind\":\"" + digits + "\"}").errors,
+              HasSubstr("found {\"kind\":\"" + digits.substr(0, 51) + "...\n"));
 }
 
 TEST(EncodeCommandTest, FieldsOnTheCommandLineNeedAKind) {

@@ -173,6 +173,11 @@ TEST(JsonUtilAsTest, EachReadsItsOwnTypesAlone) {
   EXPECT_EQ(JsonUtil::AsText(Json::Value()), std::nullopt);
 }
 
+TEST(JsonUtilToTextTest, LongTextIsCut) {
+  const std::string text(100'000, 'a');
+  EXPECT_EQ(JsonUtil::ToText(Json::Value(text)), "\"" + text.substr(0, 59) + "...");
+}
+
 TEST(JsonUtilToTextTest, IsOneLineWithUtf8AsItIs) {
   EXPECT_EQ(JsonUtil::ToText(Object(R"({"b":[1,null],"a":"前"})")), R"({"a":"前","b":[1,null]})");
 }

@@ -1,0 +1,30 @@
+#ifndef KAVRIX_TESTS_SUPPORT_GLOBAL_LOCALE_H_
+#define KAVRIX_TESTS_SUPPORT_GLOBAL_LOCALE_H_
+
+#include <locale>
+#include <string>
+
+namespace kavrix::test {
+
+// While it lives the process's global C++ locale writes and reads 1234.5 as "1.234,5". Needs no locale of the
+// system.
+class GlobalLocale {
+ public:
+  GlobalLocale() : earlier_(std::locale::global(std::locale(std::locale::classic(), new Punctuation))) {}
+  GlobalLocale(const GlobalLocale&) = delete;
+  GlobalLocale& operator=(const GlobalLocale&) = delete;
+  ~GlobalLocale() { std::locale::global(earlier_); }
+
+ private:
+  class Punctuation : public std::numpunct<char> {
+    char do_decimal_point() const override { return ','; }
+    char do_thousands_sep() const override { return '.'; }
+    std::string do_grouping() const override { return "\3"; }
+  };
+
+  std::locale earlier_;
+};
+
+}  // namespace kavrix::test
+
+#endif  // KAVRIX_TESTS_SUPPORT_GLOBAL_LOCALE_H_
