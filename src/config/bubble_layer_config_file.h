@@ -28,9 +28,10 @@ class ConfigError : public std::runtime_error {
 //   {"context_name": text, "multi_light_type": integer,
 //    "bubble_layer": {record: {"name": text, "values": [value 1, value 2, ...]}, ...},
 //    "marker_bubble": {"name": text, "values": [...]}}
-// with the records by their member names. Everything may be left out, nothing may be added. A float value is
-// any number that a float can hold; a word is an integer from 0 to 4294967295 or a text such as "0xffff0000".
-// Throws ConfigError for the first thing that does not fit; nothing is loaded then.
+// with the records by their member names. Everything may be left out, nothing may be added. The text is
+// strict JSON, read alike under every locale. A float value is any number whose nearest float is finite; a
+// word is an integer from 0 to 4294967295 or a text such as "0xffff0000". Throws ConfigError for the first
+// thing that does not fit; nothing is loaded then.
 BubbleLayerConfigFile ParseBubbleLayerConfig(const std::string& json_text);
 
 }  // namespace kavrix

@@ -36,6 +36,18 @@ TEST(BubbleLayerConfigErrorsTest, TextThatIsNoJson) {
   for (const std::string text : {"", "{", "{} x", "// c\n{}", "{'a':1}", R"({"context_name":"a",})"}) {
     EXPECT_THAT(ErrorOf(text), StartsWith("not valid JSON: Line ")) << text;
   }
+  EXPECT_EQ(ErrorOf("{\n  \"context_name\": \"a\",\n}"),
+            "not valid JSON: Line 3, Column 1: expected a key in double quotes, found '}'");
+}
+
+TEST(BubbleLayerConfigErrorsTest, TextThatOnlyLenientReadersTake) {
+  using namespace std::string_literals;
+  const std::string wide = R"({"bubble_layer":{"turn_style":{"values":[)";
+  for (const std::string& text :
+       {"{}\0x"s, "\xEF\xBB\xBF{}"s, "{\"context_name\":\"a\tb\"}"s, "{\"context_name\":\"\xFF\"}"s,
+        wide + "-]}}}", wide + "01]}}}", wide + "5.]}}}", wide + "1,]}}}", std::string(100'000, '[')}) {
+    EXPECT_THAT(ErrorOf(text), StartsWith("not valid JSON: Line 1, Column ")) << text;
+  }
 }
 
 TEST(BubbleLayerConfigErrorsTest, KeyThatStandsTwice) {
@@ -153,13 +165,19 @@ TEST(BubbleLayerConfigErrorsTest, ThingsThatAreNoFloat) {
 
 TEST(BubbleLayerConfigErrorsTest, FloatOutOfRange) {
   EXPECT_EQ(ErrorOfValues("route_label_style", "[0,0,0,3.5e38]"),
-            "route_label_style value 4: expected a number that a float can hold, found 3.5e+38");
+            "route_label_style value 4: expected a number that a float can hold, found 3.5e38");
   EXPECT_EQ(ErrorOfValues("route_label_style", "[0,0,0,-3.5e38]"),
-            "route_label_style value 4: expected a number that a float can hold, found -3.5e+38");
+            "route_label_style value 4: expected a number that a float can hold, found -3.5e38");
+  const std::string middle = "340282356779733661637539395458142568448";
+  EXPECT_EQ(ErrorOfValues("route_label_style", "[0,0,0," + middle + "]"),
+            "route_label_style value 4: expected a number that a float can hold, found " + middle);
 }
 
 TEST(BubbleLayerConfigErrorsTest, NumberThatEvenADoubleCannotHold) {
-  EXPECT_THAT(ErrorOfValues("route_label_style", "[0,0,0,1e400]"), HasSubstr("1e"));
+  EXPECT_EQ(ErrorOfValues("route_label_style", "[0,0,0,1e400]"),
+            "route_label_style value 4: expected a number that a float can hold, found 1e400");
+  EXPECT_EQ(ErrorOf(R"({"multi_light_type":-1e400})"),
+            "multi_light_type: expected a 32-bit integer, found -1e400");
 }
 
 TEST(BubbleLayerConfigErrorsTest, NothingOfABrokenConfigurationIsLoaded) {
@@ -169,6 +187,40 @@ TEST(BubbleLayerConfigErrorsTest, NothingOfABrokenConfigurationIsLoaded) {
   EXPECT_THROW(file = ParseBubbleLayerConfig(broken), ConfigError);
   EXPECT_EQ(file.context_name, "earlier");
   EXPECT_EQ(file.bubble_layer.eta_style.name, "");
+}
+
+TEST(BubbleLayerConfigErrorsTest, FindIsTheTextOfTheFile) {
+  for (const std::string value : {"1.10", "1E2", "-0.0", "12345678901234567890", "1234567890123456789012",
+                                  "1e-7", R"("\u0041\/")", "[ 1,\t2 ]", "{ \"b\": 1, \"a\": 2 }"}) {
+    EXPECT_EQ(ErrorOf(R"({ "multi_light_type" : )" + value + " }"),
+              "multi_light_type: expected a 32-bit integer, found " + value);
+  }
+}
+
+TEST(BubbleLayerConfigErrorsTest, KeysAreShownAsJsonAndCut) {
+  EXPECT_EQ(ErrorOfLayer(R"("a\u0000b\n":{})"),
+            "bubble_layer: unknown key \"a\\u0000b\\n\", expected a record such as \"traffic_style\"");
+  EXPECT_EQ(
+      ErrorOf("{\"" + std::string(100'000, 'k') + "\":1}"),
+      "the configuration: unknown key \"" + std::string(59, 'k') +
+          "..., expected \"context_name\", \"multi_light_type\", \"bubble_layer\" or \"marker_bubble\"");
+}
+
+TEST(BubbleLayerConfigErrorsTest, LongNumberGivesAShortMessage) {
+  const std::string number(100'000, '7');
+  EXPECT_EQ(ErrorOfValues("turn_style", "[" + number + "]"),
+            std::string("turn_style value 1: expected ") + kWord + ", found " + number.substr(0, 60) + "...");
+  EXPECT_EQ(ErrorOfValues("light_wait_style", "[0,0," + number + "]"),
+            "light_wait_style value 3: expected a number that a float can hold, found " +
+                number.substr(0, 60) + "...");
+}
+
+TEST(BubbleLayerConfigErrorsTest, FindIsCutBetweenCharacters) {
+  std::string text;
+  for (int i = 0; i < 30; ++i) text += "前a";
+  EXPECT_EQ(
+      ErrorOf(R"({"multi_light_type":")" + text + "\"}"),
+      "multi_light_type: expected a 32-bit integer, found \"" + text.substr(0, text.size() - 1) + "...");
 }
 
 TEST(BubbleLayerConfigErrorsTest, LongFindIsCut) {

@@ -8,6 +8,7 @@
 #include <limits>
 
 #include "map_resource/map_resource_transform.h"
+#include "tests/support/global_locale.h"
 
 namespace kavrix::test {
 namespace {
@@ -119,10 +120,19 @@ TEST(BubbleLayerConfigFileTest, WordTakesEveryIntegerOf32BitsAndHexTexts) {
 
 TEST(BubbleLayerConfigFileTest, FloatTakesEveryNumberThatAFloatHolds) {
   const std::pair<const char*, float> numbers[] = {
-      {"1", 1.0F},     {"-1.5", -1.5F},
-      {"0.1", 0.1F},   {"4294967296", 4294967296.0F},
-      {"-0.0", -0.0F}, {"3.4028234e38", 3.4028234e38F},
-      {"1e-60", 0.0F}, {"-3.4028234663852886e38", -3.40282347e38F}};
+      {"1", 1.0F},
+      {"-1.5", -1.5F},
+      {"0.1", 0.1F},
+      {"4294967296", 4294967296.0F},
+      {"-0.0", -0.0F},
+      {"3.4028234e38", 3.4028234e38F},
+      {"1e-60", 0.0F},
+      {"-3.4028234663852886e38", -3.40282347e38F},
+      {"3.4028235e+38", std::numeric_limits<float>::max()},  // as the largest float is printed
+      {"340282356779733661637539395458142568447", std::numeric_limits<float>::max()},
+      {"9007199791611905",
+       9007200328482816.0F},  // to a double and then to a float it would be ...7199254740992
+      {"1.000000059604644775390625000001", 1.00000012F}};
   for (const auto& [text, number] : numbers) {
     const auto values = "[0,0," + std::string(text) + "]";
     EXPECT_EQ(WithRecord("light_wait_style", values).bubble_layer.light_wait_style.Float(3), number) << text;
@@ -143,6 +153,13 @@ TEST(BubbleLayerConfigFileTest, LoadedConfigurationReplacesTheWholeEarlierOne) {
   const BubbleLayerConfigContainer config = context.GetBubbleLayerConfigInLock();
   EXPECT_EQ(config.turn_style.name, "b");
   EXPECT_EQ(config.traffic_style.name, "");
+}
+
+TEST(BubbleLayerConfigFileTest, LoadsUnderEveryGlobalLocale) {
+  const GlobalLocale other;
+  EXPECT_EQ(WithRecord("light_wait_style", "[0,0,1234.5]").bubble_layer.light_wait_style.Float(3), 1234.5F);
+  EXPECT_EQ(ParseBubbleLayerConfig(R"({"multi_light_type":1234567})").multi_light_type, 1234567);
+  EXPECT_THROW(WithRecord("light_wait_style", "[0,0,1,5,0]"), ConfigError);
 }
 
 TEST(BubbleLayerConfigFileTest, BundledConfigurationLoadsAndNamesEveryRecordThatIsRead) {
