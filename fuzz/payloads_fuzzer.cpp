@@ -4,7 +4,7 @@
 #include "fuzz/vocabulary.h"
 #include "map_resource/map_resource_manager.h"
 #include "map_resource/resource_name.h"
-#include "util/json_util.h"
+#include "util/json_value.h"
 
 namespace kavrix::fuzz {
 namespace {

@@ -7,7 +7,7 @@
 #include "map_resource/encode_error.h"
 #include "map_resource/map_resource_manager.h"
 #include "tests/support/carried_fields.h"
-#include "util/json_util.h"
+#include "util/json_value.h"
 
 namespace kavrix::fuzz {
 namespace {

@@ -7,7 +7,7 @@
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_manager.h"
 #include "tools/bulk.h"
-#include "util/json_util.h"
+#include "util/json_value.h"
 #include "util/strict_json.h"
 
 namespace kavrix::tools {

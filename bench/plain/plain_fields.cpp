@@ -7,7 +7,7 @@
 
 #include "map_resource/map_resource_manager.h"
 #include "util/json_nesting.h"
-#include "util/json_util.h"
+#include "util/json_value.h"
 
 // Some JsonCpp versions mark the legacy reader deprecated.
 #if defined(__GNUC__)

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string_view>
 
-#include "util/json_util.h"
+#include "util/json_value.h"
 #include "util/strict_json.h"
 
 namespace kavrix {

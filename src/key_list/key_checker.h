@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "util/json_util.h"
+#include "util/json_value.h"
 
 namespace kavrix {
 

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "util/fields.h"
-#include "util/json_util.h"
+#include "util/json_value.h"
 
 // A key list is a function template that names what a resource name carries, in reading order, by verbs of
 // its first argument. The readers below are what the decoder hands to it.

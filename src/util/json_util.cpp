@@ -1,77 +1,8 @@
 #include "util/json_util.h"
 
-#include <json/reader.h>
-#include <json/writer.h>
-
-#include "util/json_nesting.h"
-#include "util/strict_json.h"
-
-// Some JsonCpp versions mark the legacy reader deprecated. Its accept set is the contract, so it stays.
-#if defined(__GNUC__)
-#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
-#endif
+#include "util/json_value.h"
 
 namespace kavrix::JsonUtil {
-
-bool ParseObject(std::string_view text, Json::Value& root) {
-  // A text no longer than the limit cannot nest deeper: that many brackets leave no room for a value inside.
-  if (text.size() > kDeepestValue && IsNestedDeeperThan(text, kDeepestValue)) return false;
-  try {
-    Json::Reader reader;
-    return reader.parse(text.data(), text.data() + text.size(), root, false) && root.isObject();
-  } catch (const Json::Exception&) {
-    return false;
-  }
-}
-
-bool ParseStrictly(const std::string& text, Json::Value& root, std::string& error) {
-  try {
-    root = ReadStrictly(text);
-    return true;
-  } catch (const JsonError& json_error) {
-    error = json_error.what();
-    return false;
-  }
-}
-
-const Json::Value* Find(const Json::Value& object, std::string_view key) {
-  if (!object.isObject()) return nullptr;
-  return object.find(key.data(), key.data() + key.size());
-}
-
-std::optional<int> AsInt(const Json::Value& value) {
-  const std::optional<std::int64_t> number = AsInteger(value);
-  if (!number || *number != static_cast<int>(*number)) return std::nullopt;
-  return static_cast<int>(*number);
-}
-
-// isInt64() and its like are true for reals with an integral value; only the stored type tells them apart.
-std::optional<std::int64_t> AsInteger(const Json::Value& value) {
-  const Json::ValueType type = value.type();
-  const bool is_integer = type == Json::intValue || (type == Json::uintValue && value.isInt64());
-  if (!is_integer) return std::nullopt;
-  return value.asInt64();
-}
-
-std::optional<double> AsDouble(const Json::Value& value) {
-  if (!value.isDouble()) return std::nullopt;  // true for integers too
-  return value.asDouble();
-}
-
-std::optional<std::string_view> AsText(const Json::Value& value) {
-  const char* begin = nullptr;
-  const char* end = nullptr;
-  if (value.getString(&begin, &end)) return std::string_view(begin, static_cast<std::size_t>(end - begin));
-  if (!value.isString()) return std::nullopt;
-  return std::string_view();  // made of a null pointer
-}
-
-std::string ToText(const Json::Value& value) {
-  Json::StreamWriterBuilder builder;
-  builder["indentation"] = "";
-  builder["emitUTF8"] = true;
-  return Excerpt(Json::writeString(builder, value));
-}
 
 std::string StringValue(const Json::Value& object, const std::string& key, const std::string& default_value) {
   const Json::Value* const member = Find(object, key);

@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "key_list/key_checker.h"
-#include "util/json_util.h"
+#include "util/json_value.h"
 
 namespace kavrix::test {
 namespace {

@@ -2,7 +2,7 @@
 #include <locale>
 
 #include "tests/support/decode_test.h"
-#include "util/json_util.h"
+#include "util/json_value.h"
 
 namespace kavrix::test {
 namespace {

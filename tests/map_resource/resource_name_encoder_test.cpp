@@ -8,7 +8,7 @@
 #include "tests/support/decode_test.h"
 #include "tests/support/golden.h"
 #include "tests/support/random_fields.h"
-#include "util/json_util.h"
+#include "util/json_value.h"
 
 namespace kavrix::test {
 namespace {

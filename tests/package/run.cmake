@@ -1,5 +1,5 @@
-# Installs the build in BUILD_DIR to an empty folder, then configures, builds and runs the client project in
-# SOURCE_DIR against it.
+# Installs the build in BUILD_DIR to an empty folder, looks at the headers there, then configures, builds and runs the
+# client project in SOURCE_DIR against it.
 set(work ${BUILD_DIR}/package_test)
 file(REMOVE_RECURSE ${work})
 
@@ -11,8 +11,19 @@ function(run)
 endfunction()
 
 run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${work}/prefix)
+
+include(${SOURCE_DIR}/../../cmake/public_headers.cmake)
+file(
+  GLOB_RECURSE installed
+  RELATIVE ${work}/prefix/include/kavrix_map_resource
+  ${work}/prefix/include/*)
+list(SORT installed)
+if(NOT installed STREQUAL KAVRIX_PUBLIC_HEADERS)
+  message(FATAL_ERROR "the installed headers are\n${installed}\nand not the public ones\n${KAVRIX_PUBLIC_HEADERS}")
+endif()
+
 run(${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${work}/build -G ${GENERATOR} -DCMAKE_PREFIX_PATH=${work}/prefix
-    -DCMAKE_CXX_FLAGS=${CXX_FLAGS})
+    -DCMAKE_CXX_FLAGS=${CXX_FLAGS} -DPLOG_INCLUDE_DIR=${PLOG_INCLUDE_DIR})
 run(${CMAKE_COMMAND} --build ${work}/build)
 run(${work}/build/client)
 run(${work}/prefix/bin/kavrix-resource --version)

@@ -7,7 +7,7 @@
 #include "map_resource/bubble_kinds.h"
 #include "tests/support/decode_test.h"
 #include "tests/support/thread_stack.h"
-#include "util/json_util.h"
+#include "util/json_value.h"
 
 namespace kavrix::test {
 namespace {

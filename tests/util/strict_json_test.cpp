@@ -13,7 +13,7 @@
 
 #include "tests/support/effort.h"
 #include "tests/support/global_locale.h"
-#include "util/json_util.h"
+#include "util/json_value.h"
 
 namespace kavrix::test {
 namespace {

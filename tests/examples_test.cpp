@@ -1,0 +1,50 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "tests/support/tool.h"
+
+// README.md quotes the programs of examples/ and what they print, indented by four blanks.
+namespace kavrix::test {
+namespace {
+
+std::string ReadAll(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+std::string Indented(const std::string& text) {
+  std::string indented;
+  for (std::size_t begin = 0; begin < text.size();) {
+    const std::size_t end = text.find('\n', begin) + 1;
+    const std::string line = text.substr(begin, end - begin);
+    indented += (line == "\n" ? "" : "    ") + line;
+    begin = end;
+  }
+  return indented;
+}
+
+TEST(ExamplesTest, ReadmeQuotesEachProgramAndWhatItPrints) {
+  const std::string readme = ReadAll(KAVRIX_SOURCE_DIR "/README.md");
+  int programs = 0;
+  for (const auto& file : std::filesystem::directory_iterator(KAVRIX_SOURCE_DIR "/examples")) {
+    if (file.path().extension() != ".cpp") continue;
+    ++programs;
+    const std::string program = Indented(ReadAll(file.path()));
+    EXPECT_NE(readme.find(program), std::string::npos) << file.path() << " is not in README.md:\n" << program;
+    const ToolResult result =
+        RunShell("'" KAVRIX_EXAMPLES_DIR "/example_" + file.path().stem().string() + "'");
+    EXPECT_EQ(result.status, 0) << file.path();
+    EXPECT_NE(result.output, "") << file.path();
+    EXPECT_NE(readme.find("\n" + Indented(result.output)), std::string::npos)
+        << file.path() << " prints what README.md does not say:\n"
+        << result.output;
+  }
+  EXPECT_GT(programs, 3);
+}
+
+}  // namespace
+}  // namespace kavrix::test
