@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "descriptors/descriptors.h"
+#include "tests/support/print_descriptor.h"
 
 namespace kavrix::test {
 namespace {
@@ -121,6 +122,17 @@ TEST(BubbleDrawDescriptorTest, DescriptorsAreEqualWhenTypeAndMembersAre) {
   EXPECT_EQ(TurnArrowBubbleDrawDescriptor(), TurnArrowBubbleDrawDescriptor());
   EXPECT_NE(LightWaitBubbleDrawDescriptor(), HDLongSolidBubbleDrawDescriptor());
   EXPECT_NE(LightWaitBubbleDrawDescriptor(), BubbleDrawDescriptor());
+}
+
+TEST(BubbleDrawDescriptorTest, FailedComparisonShowsAllMembers) {
+  TurnArrowBubbleDrawDescriptor turn;
+  turn.style_scale = {1, 1.00000012F};
+  turn.distance = 7;
+  const BubbleDrawDescriptor& base = turn;
+  const std::string shown = ::testing::PrintToString(base);
+  EXPECT_THAT(shown, ::testing::StartsWith("TurnArrowBubbleDrawDescriptor{scene:0, content:\"\""));
+  EXPECT_THAT(shown, ::testing::HasSubstr("style_scale:[1, 1.00000012]"));
+  EXPECT_THAT(shown, ::testing::EndsWith(", distance:7}"));
 }
 
 template <class Change>

@@ -13,6 +13,7 @@
 
 #include "map_resource/map_resource_manager.h"
 #include "map_resource/map_resource_transform.h"
+#include "tests/support/print_descriptor.h"
 #include "tests/support/record_collector.h"
 
 namespace kavrix::test {

@@ -1,0 +1,21 @@
+#ifndef KAVRIX_TESTS_SUPPORT_PRINT_DESCRIPTOR_H_
+#define KAVRIX_TESTS_SUPPORT_PRINT_DESCRIPTOR_H_
+
+#include <limits>
+#include <ostream>
+
+#include "descriptors/bubble_draw_descriptor.h"
+
+namespace kavrix {
+
+// Found by googletest: a comparison that fails shows all members of the object, whatever type it was compared
+// as, and tells floats apart that are not equal.
+inline void PrintTo(const BubbleDrawDescriptor& descriptor, std::ostream* stream) {
+  const std::streamsize precision = stream->precision(std::numeric_limits<float>::max_digits10);
+  WriteAllMembers(*stream, descriptor);
+  stream->precision(precision);
+}
+
+}  // namespace kavrix
+
+#endif  // KAVRIX_TESTS_SUPPORT_PRINT_DESCRIPTOR_H_
