@@ -10,9 +10,10 @@ namespace kavrix::tools {
 
 void JsonWriter::Real(float value) {
   if (!std::isfinite(value)) return Null();
+  if (value == 0 && std::signbit(value)) return RawNumber("-0.0");
   std::array<char, 32> text{};
   const char* const end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
-  writer_.RawValue(text.data(), static_cast<std::size_t>(end - text.data()), rapidjson::kNumberType);
+  RawNumber({text.data(), static_cast<std::size_t>(end - text.data())});
 }
 
 void JsonWriter::Text(std::string_view text) {

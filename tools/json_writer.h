@@ -23,13 +23,19 @@ class JsonWriter {
   void Null() { writer_.Null(); }
   void Flag(bool value) { writer_.Bool(value); }
   void Integer(std::int64_t value) { writer_.Int64(value); }
-  void Real(float value);  // the shortest text that reads back to the same float; null when it is no number
+  // The shortest text that reads back to the same float: without a point where the float is whole, but -0.0,
+  // because -0 loses its sign to readers of integers. Null when it is no number.
+  void Real(float value);
   void Text(std::string_view text);
 
   // What was written, as a line.
   std::string TakeLine();
 
  private:
+  void RawNumber(std::string_view text) {
+    writer_.RawValue(text.data(), text.size(), rapidjson::kNumberType);
+  }
+
   static constexpr std::size_t kUsualLineSize = 2048;  // what a line need not grow to by many small steps
 
   rapidjson::StringBuffer buffer_;

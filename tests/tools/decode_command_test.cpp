@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "tests/support/tool.h"
 
 namespace kavrix::test {
@@ -150,6 +152,18 @@ TEST(DecodeCommandTest, MarkerBubblesHaveTheStyleOfTheConfiguration) {
               HasSubstr(R"("style_name":"m","icon":"","style_word":7,"style_scale":[0.5,0.5])"));
   EXPECT_THAT(RunTool({"decode", "--format", "text", name}).output,
               HasSubstr("  style       marker_bubble\n"));
+}
+
+TEST(DecodeCommandTest, WholeFloatsPrintWithoutAPointButNotMinusZero) {
+  const std::string config =
+      R"({"bubble_layer":{"traffic_style":{"values":[0,0,-0.0,0,0,0,0,12.0,-3.0,0.0]}}})";
+  const ToolResult result = RunShell("printf '%s' '" + config + "' | \"$TOOL\" decode --config /dev/stdin '" +
+                                     kPrefix + R"({"mode":1}.trafficBubble')");
+  EXPECT_THAT(result.output, HasSubstr(R"("style_scale":[-0.0,-0.0],)"));
+  EXPECT_THAT(result.output, HasSubstr(R"("style_float_1":12,"style_float_2":-3,"style_float_3":0,)"));
+  const auto scale = result.JsonLines().at(0).at("descriptor").at("base").at("style_scale").at(0);
+  EXPECT_TRUE(scale.is_number_float());
+  EXPECT_TRUE(std::signbit(scale.get<float>()));
 }
 
 TEST(DecodeCommandTest, ContextNameAndPrefixAreTheUsers) {
