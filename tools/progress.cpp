@@ -1,13 +1,26 @@
 #include "tools/progress.h"
 
+#include <sys/ioctl.h>
+#include <unistd.h>
+
 #include <cmath>
 #include <cstdio>
 
 namespace kavrix::tools {
 namespace {
 
+// How much of a line the terminal shows without wrapping it; all where it does not tell its width. The last
+// column stays empty, because some terminals wrap as soon as it is filled.
+std::size_t MostColumns() {
+  winsize size = {};
+  const bool is_known = ::ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+  return is_known ? size.ws_col - 1U : std::string::npos;
+}
+
 // In place of what stands on the line. A terminal that cannot be written to is no reason to end the work.
-void Draw(const std::string& text) { (void)std::fputs(("\r\x1b[K" + text).c_str(), stderr); }
+void Draw(const std::string& text) {
+  (void)std::fputs(("\r\x1b[K" + text.substr(0, MostColumns())).c_str(), stderr);
+}
 
 std::string TwoDigits(std::uint64_t number) { return (number < 10 ? "0" : "") + std::to_string(number); }
 

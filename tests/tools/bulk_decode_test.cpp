@@ -122,6 +122,16 @@ TEST(BulkDecodeTest, LongRunShowsItsProgressOnATerminalAndClearsIt) {
   EXPECT_EQ(lines.back(), "^[K8");
 }
 
+TEST(BulkDecodeTest, ProgressIsCutToTheWidthOfTheTerminal) {
+  const ToolResult result = RunShell("export TOOL; script -qc 'stty cols 15; (" + std::string(kSlowNames) +
+                                     ") | \"$TOOL\" decode > /dev/null' /dev/null | tr '\\r\\033' '\\n^'");
+  const auto lines = result.Lines();
+  ASSERT_GE(lines.size(), 3U);
+  for (std::size_t i = 1; i + 1 < lines.size(); ++i)
+    EXPECT_THAT(lines[i], MatchesRegex("\\^\\[K[5-8] names, [0-9] a s"));
+  EXPECT_EQ(lines.back(), "^[K");
+}
+
 TEST(BulkDecodeTest, ProgressTellsTheTimeLeftOfAFile) {
   const ToolResult result = RunShell(
       "export TOOL; names=/tmp/kavrix_names_$$; yes | head -2000 > $names; script -qc '\"$TOOL\" decode < "
