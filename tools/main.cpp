@@ -3,6 +3,7 @@
 #include <csignal>
 #include <exception>
 #include <iostream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -22,10 +23,12 @@ int Report(const CLI::App& app, const CLI::ParseError& error) {
     app.exit(error, std::cout, std::cerr);
     return kTrouble;
   }
-  app.exit(error, std::cout, std::cerr);
-  std::cout.flush();
-  kavrix::tools::Output(false).Flush();
-  return std::cout ? 0 : kTrouble;
+  std::ostringstream text;
+  app.exit(error, text, std::cerr);
+  kavrix::tools::Output output(false);
+  output.Write(text.str());
+  output.Flush();
+  return 0;
 }
 
 // CLI11 takes an argument such as "[a,b]" apart as a list and knows "--" in front of the first name alone.

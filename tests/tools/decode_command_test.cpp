@@ -294,6 +294,15 @@ TEST(DecodeCommandTest, UnknownOptionsAndFormatsAreUsageErrors) {
   EXPECT_EQ(RunTool({"nonsense"}).status, 2);
 }
 
+TEST(DecodeCommandTest, HelpAndVersionIntoAFullDiskAreTrouble) {
+  for (const std::string what : {"--help", "--version", "decode --help"}) {
+    const ToolResult full = RunShell("\"$TOOL\" " + what + " > /dev/full");
+    EXPECT_EQ(full.status, 2) << what;
+    EXPECT_EQ(full.errors, "kavrix-resource: cannot write standard output: No space left on device\n")
+        << what;
+  }
+}
+
 TEST(DecodeCommandTest, HelpAndVersionSucceed) {
   const ToolResult help = RunTool({"--help"});
   EXPECT_EQ(help.status, 0);
