@@ -12,6 +12,8 @@
 namespace kavrix::tools {
 namespace {
 
+constexpr std::size_t kLargestFile = 16 << 20;
+
 [[noreturn]] void Fail(const std::string& what, int error) {
   throw StreamError(what + ": " + std::strerror(error));
 }
@@ -19,12 +21,19 @@ namespace {
 }  // namespace
 
 std::string ReadFile(const std::string& path) {
+  struct stat status = {};
+  if (::stat(path.c_str(), &status) != 0) Fail("cannot open " + path, errno);
+  // Asked before it is opened, which may do something to a device.
+  if (!S_ISREG(status.st_mode) && !S_ISFIFO(status.st_mode)) {
+    throw StreamError("cannot read " + path + ": neither a regular file nor a pipe");
+  }
   const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"), std::fclose);
   if (file == nullptr) Fail("cannot open " + path, errno);
   std::string text;
   std::vector<char> buffer(1 << 16);
   while (const std::size_t size = std::fread(buffer.data(), 1, buffer.size(), file.get())) {
     text.append(buffer.data(), size);
+    if (text.size() > kLargestFile) throw StreamError("cannot read " + path + ": larger than 16 MiB");
   }
   if (std::ferror(file.get()) != 0) Fail("cannot read " + path, errno);
   return text;

@@ -19,7 +19,8 @@ class StreamError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// The whole file. Throws StreamError.
+// All that a regular file or a pipe holds. Throws StreamError, for more than 16 MiB and for other files
+// (devices, folders, sockets) too.
 std::string ReadFile(const std::string& path);
 
 // A stream, standard input by default, as a sequence of names, each ended by the delimiter or by the end of
