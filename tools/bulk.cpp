@@ -4,14 +4,13 @@
 
 #include <cstdint>
 #include <exception>
-#include <iostream>
 #include <optional>
 #include <utility>
 
+#include "tools/error_line.h"
 #include "tools/ordered_pipeline.h"
 #include "tools/progress.h"
 #include "tools/streams.h"
-#include "tools/text_output.h"
 
 namespace kavrix::tools {
 namespace {
@@ -108,8 +107,7 @@ std::size_t WorkInBulk(const BulkOptions& options, const std::function<NameResul
   const auto put = [&](const Batch& batch) {
     output.Write(batch.results);
     for (const auto& [place, problem] : batch.problems) {
-      std::cerr << "kavrix-resource: " << options.what << ' ' << done + place << ": " << Printable(problem)
-                << '\n';
+      WriteErrorLine(options.what + ' ' + std::to_string(done + place) + ": " + problem);
     }
     done += batch.names.size();
     failed += batch.failed;

@@ -3,15 +3,14 @@
 #include <fmt/format.h>
 
 #include <charconv>
-#include <iostream>
 #include <memory>
 #include <optional>
 
 #include "map_resource/resource_catalogue.h"
+#include "tools/error_line.h"
 #include "tools/format_option.h"
 #include "tools/json_writer.h"
 #include "tools/streams.h"
-#include "tools/text_output.h"
 
 namespace kavrix::tools {
 namespace {
@@ -94,7 +93,7 @@ int Run(const IconsOptions& options) {
     }
     if (!found) {
       status = 1;
-      std::cerr << "kavrix-resource: no icon has the id or the text \"" << Printable(query) << "\"\n";
+      WriteErrorLine("no icon has the id or the text \"" + query + "\"");
     }
   }
   output.Flush();

@@ -9,6 +9,7 @@
 
 #include "tools/decode_command.h"
 #include "tools/encode_command.h"
+#include "tools/error_line.h"
 #include "tools/icons_command.h"
 #include "tools/kinds_command.h"
 #include "tools/streams.h"
@@ -20,7 +21,8 @@ constexpr int kTrouble = 2;
 // Help and version go to standard output and are a success; anything else is a usage error.
 int Report(const CLI::App& app, const CLI::ParseError& error) {
   if (error.get_exit_code() != 0) {
-    app.exit(error, std::cout, std::cerr);
+    kavrix::tools::WriteErrorLine(error.what());
+    std::cerr << "Run with --help for more information.\n";
     return kTrouble;
   }
   std::ostringstream text;
@@ -84,7 +86,7 @@ int main(int argc, char** argv) {
   try {
     return Run(argc, argv);
   } catch (const std::exception& error) {
-    std::cerr << "kavrix-resource: " << error.what() << '\n';
+    kavrix::tools::WriteErrorLine(error.what());
     return kTrouble;
   }
 }
