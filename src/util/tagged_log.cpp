@@ -13,14 +13,15 @@ namespace {
 
 using InstancePointer = std::shared_ptr<const LoggerInstance>;
 
-// The lock covers the look-up alone: no sink and no filter runs under it.
+// The lock covers only the look-up: no sink and no filter runs under it, nor is one destroyed.
 class InstanceTable {
  public:
+  // Null removes.
   void Set(std::uint32_t id, InstancePointer instance) {
     const std::lock_guard<std::mutex> lock(mutex_);
     InstancePointer& slot = instances_[id];
     slot.swap(instance);  // what was installed before goes with the parameter, after the lock
-    if (slot->sink == nullptr) instances_.erase(id);
+    if (slot == nullptr) instances_.erase(id);
     is_empty_ = instances_.empty();
   }
 
@@ -45,7 +46,9 @@ InstanceTable& Instances() {
 }  // namespace
 
 void SetLoggerInstance(std::uint32_t instance_id, LoggerInstance instance) {
-  Instances().Set(instance_id, std::make_shared<const LoggerInstance>(std::move(instance)));
+  const bool is_removal = instance.sink == nullptr;
+  Instances().Set(instance_id,
+                  is_removal ? nullptr : std::make_shared<const LoggerInstance>(std::move(instance)));
 }
 
 bool Logger::TestLogLevelAndTag(std::uint32_t instance_id, LogLevel level, const std::string& tag) noexcept {

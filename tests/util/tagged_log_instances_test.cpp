@@ -2,7 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <chrono>
 #include <functional>
+#include <future>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -32,6 +34,36 @@ class FunctionSink : public logging::LogSink {
 
  private:
   std::function<void(const std::string&)> write_;
+};
+
+// Asks in its destructor whether another thread can install an instance meanwhile.
+class InstallsWhenDestroyed {
+ public:
+  explicit InstallsWhenDestroyed(int& installed) : installed_(installed) {}
+  InstallsWhenDestroyed(const InstallsWhenDestroyed&) = delete;
+  InstallsWhenDestroyed& operator=(const InstallsWhenDestroyed&) = delete;
+  ~InstallsWhenDestroyed() {
+    std::packaged_task<void()> install([] { SetLoggerInstance(kSecond, {}); });
+    const std::future<void> done = install.get_future();
+    std::thread(std::move(install)).detach();  // a lock that is held here must not hold the test for ever
+    if (done.wait_for(std::chrono::seconds(5)) == std::future_status::ready) ++installed_;
+  }
+
+ private:
+  int& installed_;
+};
+
+std::function<bool(const std::string&)> FilterThatInstallsWhenDestroyed(int& installed) {
+  return [object = std::make_shared<InstallsWhenDestroyed>(installed)](const std::string&) { return true; };
+}
+
+class SinkThatInstallsWhenDestroyed : public logging::LogSink {
+ public:
+  explicit SinkThatInstallsWhenDestroyed(int& installed) : object_(installed) {}
+  void Write(const LogRecord&) override {}
+
+ private:
+  InstallsWhenDestroyed object_;
 };
 
 class TaggedLogInstancesTest : public ::testing::Test {
@@ -169,6 +201,29 @@ TEST_F(TaggedLogInstancesTest, SinkMayRemoveItself) {
   Say("a");
   Say("b");
   EXPECT_THAT(first_, ElementsAre("[Kavrix][ctx]a"));
+}
+
+TEST_F(TaggedLogInstancesTest, RemovedSinkAndFilterMayInstallWhileTheyAreDestroyed) {
+  int installed = 0;
+  SetLoggerInstance(kFirst, {std::make_shared<SinkThatInstallsWhenDestroyed>(installed), LogLevel::kRoutine,
+                             FilterThatInstallsWhenDestroyed(installed)});
+  SetLoggerInstance(kFirst, {});
+  EXPECT_EQ(installed, 2);
+}
+
+TEST_F(TaggedLogInstancesTest, ReplacedSinkAndFilterMayInstallWhileTheyAreDestroyed) {
+  int installed = 0;
+  SetLoggerInstance(kFirst, {std::make_shared<SinkThatInstallsWhenDestroyed>(installed), LogLevel::kRoutine,
+                             FilterThatInstallsWhenDestroyed(installed)});
+  SetLoggerInstance(kFirst, {SinkInto(first_), LogLevel::kRoutine, {}});
+  EXPECT_EQ(installed, 2);
+}
+
+TEST_F(TaggedLogInstancesTest, FilterThatCameWithANullSinkMayInstallWhileItIsDestroyed) {
+  int installed = 0;
+  SetLoggerInstance(kFirst, {SinkInto(first_), LogLevel::kRoutine, {}});
+  SetLoggerInstance(kFirst, {nullptr, LogLevel::kRoutine, FilterThatInstallsWhenDestroyed(installed)});
+  EXPECT_EQ(installed, 1);
 }
 
 TEST_F(TaggedLogInstancesTest, ThreadsMayExchangeSinksWhileAnotherLogs) {
