@@ -11,7 +11,9 @@
 // warning signs.
 //
 // The maps have internal linkage: every source file that includes this header has its own, built before its
-// code runs and never changed.
+// code runs and never changed. They are destroyed with that file's static objects: a static constructor or
+// destructor of the same file may use them, one that reaches this file from another may come too early or
+// late.
 namespace kavrix::R {
 
 struct Icon {

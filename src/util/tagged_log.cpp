@@ -1,8 +1,10 @@
 #include "util/tagged_log.h"
 
+#include <cstddef>
 #include <locale>
 #include <map>
 #include <mutex>
+#include <new>
 #include <utility>
 
 namespace kavrix::logging {
@@ -38,8 +40,11 @@ class InstanceTable {
   std::map<std::uint32_t, InstancePointer> instances_;
 };
 
+// Never destroyed, because a static object may decode in its destructor; and in a place of its own, so that
+// no decode is the one that needs memory for it.
 InstanceTable& Instances() {
-  static InstanceTable table;
+  alignas(InstanceTable) static std::byte place[sizeof(InstanceTable)];
+  static InstanceTable& table = *new (place) InstanceTable;
   return table;
 }
 
