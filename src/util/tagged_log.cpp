@@ -66,6 +66,33 @@ bool Logger::TestLogLevelAndTag(std::uint32_t instance_id, LogLevel level, const
   }
 }
 
+MessageBuffer::MessageBuffer() {
+  constexpr std::size_t kLengthOfMost = 512;
+  text_.reserve(kLengthOfMost);  // which then need not grow
+}
+
+std::streambuf::int_type MessageBuffer::overflow(int_type c) {
+  LetThrough([&] { text_ += traits_type::to_char_type(c); });
+  return c;
+}
+
+std::streamsize MessageBuffer::xsputn(const char* bytes, std::streamsize count) {
+  LetThrough([&] { text_.append(bytes, static_cast<std::size_t>(count)); });
+  return count;
+}
+
+// The stream is told to let exceptions through at the first one, not before: inserters that copy the stream's
+// format copy its exception mask too, and would throw where nothing failed.
+template <class Append>
+void MessageBuffer::LetThrough(Append append) {
+  try {
+    append();
+  } catch (...) {
+    stream_.exceptions(std::ios::badbit | std::ios::failbit);
+    throw;
+  }
+}
+
 Record::Record(LogLevel level, const char* function, unsigned long line, const char* file,
                std::uint32_t instance_id, const std::string& tag)
     : level_(level),
@@ -74,13 +101,13 @@ Record::Record(LogLevel level, const char* function, unsigned long line, const c
       file_(file),
       tag_(tag),
       instance_(Instances().Find(instance_id)) {
-  stream_.imbue(std::locale::classic());
+  Stream().imbue(std::locale::classic());
 }
 
 Record::~Record() {
   if (instance_ == nullptr) return;
   try {
-    instance_->sink->Write({level_, tag_, function_, file_, line_, stream_.str()});
+    instance_->sink->Write({level_, tag_, function_, file_, line_, message_.text()});
   } catch (...) {  // NOLINT(bugprone-empty-catch): a failing sink costs its record, never the decode
   }
 }

@@ -7,7 +7,8 @@
 #include <iomanip>
 #include <ios>
 #include <memory>
-#include <sstream>
+#include <ostream>
+#include <streambuf>
 #include <string>
 
 // Log records with a tag, filtered by level and tag before anything of the message is evaluated. A sink
@@ -60,8 +61,27 @@ class Logger {
   static bool TestLogLevelAndTag(std::uint32_t instance_id, LogLevel level, const std::string& tag) noexcept;
 };
 
-// A record being written. Its destructor completes it and hands it to the instance's sink. A message that
-// memory runs out for arrives cut short, or not at all.
+// The text of a message and the stream that writes it. A stream swallows what its buffer throws and is silent
+// from then on; this one lets it through, such as std::bad_alloc, and keeps what was written before.
+class MessageBuffer : private std::streambuf {
+ public:
+  MessageBuffer();
+  std::ostream& Stream() { return stream_; }
+  const std::string& text() const { return text_; }
+
+ private:
+  int_type overflow(int_type c) override;
+  std::streamsize xsputn(const char* bytes, std::streamsize count) override;
+  template <class Append>
+  void LetThrough(Append append);
+
+  std::string text_;
+  std::ostream stream_{this};
+};
+
+// A record being written. Its destructor completes it and hands it to the instance's sink. An exception while
+// the message is written, such as std::bad_alloc, leaves the statement; the record is then delivered with
+// what was written until there. The destructor itself needs no memory and never throws.
 class Record {
  public:
   // `tag` must outlive the record.
@@ -72,7 +92,7 @@ class Record {
   ~Record();
 
   // Numbers print as in the C locale, whatever the process is set to.
-  std::ostream& Stream() { return stream_; }
+  std::ostream& Stream() { return message_.Stream(); }
 
  private:
   const LogLevel level_;
@@ -81,7 +101,7 @@ class Record {
   const char* const file_;
   const std::string& tag_;
   const std::shared_ptr<const LoggerInstance> instance_;  // null when there is none with that id
-  std::ostringstream stream_;
+  MessageBuffer message_;
 };
 
 constexpr const char* BaseName(const char* path) {

@@ -8,6 +8,7 @@
 #include <new>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kavrix::test {
@@ -39,6 +40,19 @@ struct Context {
   std::string context_name = "ctx";
 };
 
+// More than any string holds: what appends it throws before it reads it.
+const std::string_view kTooLong("x", std::string().max_size());
+
+// Of a client's own: saves the stream's format in the customary way.
+struct ClientType {};
+std::ostream& operator<<(std::ostream& stream, const ClientType&) {
+  std::ios saved(nullptr);
+  saved.copyfmt(stream);
+  stream << std::hex << 255;
+  stream.copyfmt(saved);
+  return stream << ' ' << 255;
+}
+
 // A class that logs the way the transform does: through its `context_`.
 class Speaker {
  public:
@@ -52,6 +66,14 @@ class Speaker {
   }
   void SayEvaluated() { KAVRIX_LOG(LogTagSpeaker, LogLevel::kRoutine, Evaluate()); }
   void SayThrowing() { KAVRIX_LOG(LogTagSpeaker, LogLevel::kRoutine, "begun" << Throw()); }
+  void SayTooLong() {
+    KAVRIX_LOG(LogTagSpeaker, LogLevel::kRoutine, "begun" << kTooLong << "ended" << Evaluate());
+  }
+  void SayClientType() { KAVRIX_LOG(LogTagSpeaker, LogLevel::kRoutine, ClientType() << ' ' << 0.5); }
+  void SayTextThatIsNotThere() {
+    const char* const text = nullptr;
+    KAVRIX_LOG(LogTagSpeaker, LogLevel::kRoutine, "begun" << text << "not reached");
+  }
   unsigned long SayOnLine() {
     const unsigned long line = __LINE__ + 1;
     KAVRIX_LOG(LogTagSpeaker, LogLevel::kRoutine, "here");
@@ -223,6 +245,20 @@ TEST_F(TaggedLogTest, ExceptionFromTheMessageReachesTheCaller) {
   EXPECT_THROW(speaker_.SayThrowing(), std::bad_alloc);
   speaker_.SayRoutine("afterwards");
   EXPECT_EQ(sink_->messages.back(), "[Kavrix][ctx]said:afterwards");
+}
+
+TEST_F(TaggedLogTest, ExceptionFromTheMessagesStorageReachesTheCallerAndTheRecordHoldsWhatWasWritten) {
+  Install();
+  EXPECT_THROW(speaker_.SayTooLong(), std::length_error);
+  EXPECT_THAT(sink_->messages, ElementsAre("[Kavrix][ctx]begun"));
+  EXPECT_EQ(speaker_.evaluations, 0);
+}
+
+TEST_F(TaggedLogTest, StreamOfAnOrdinaryRecordIsAsAnyOther) {
+  Install();
+  speaker_.SayClientType();
+  speaker_.SayTextThatIsNotThere();
+  EXPECT_THAT(sink_->messages, ElementsAre("[Kavrix][ctx]ff 255 0.500000", "[Kavrix][ctx]begun"));
 }
 
 TEST_F(TaggedLogTest, NulBytesStayInTheMessage) {
