@@ -11,7 +11,8 @@
 namespace kavrix {
 
 // What the transform needs of one map: its name and its bubble-layer configuration. All members may be used
-// from several threads at once. A client whose configuration lives elsewhere overrides the accessor.
+// from several threads at once, and each transform keeps it alive. A client whose configuration lives
+// elsewhere overrides the accessor.
 class KavrixContext {
  public:
   explicit KavrixContext(std::string context_name);

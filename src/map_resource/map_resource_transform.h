@@ -15,9 +15,14 @@ namespace kavrix {
 
 // Turns the resource name of a map bubble into everything needed to draw it. One object serves any number of
 // threads; nothing is kept between calls.
+//
+// Calls work before main and after it, in the constructors and destructors of static objects. The object is
+// destroyed when no call of it runs, so not by a sink or a context that the call itself uses. The child of a
+// fork() calls nothing of this library before exec if the parent had other threads that use it: a lock that
+// one of them held is held for ever there. A parent of one thread and its child may both go on.
 class MapResourceTransform {
  public:
-  // `context` must not be null; it is shared and outlives every call.
+  // `context` must not be null. The transform shares it, so the client may let go of it at any time.
   explicit MapResourceTransform(std::shared_ptr<KavrixContext> context);
 
   // Sets the style of marker bubbles, which is not the context's; without it they have an empty name and

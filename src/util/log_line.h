@@ -24,7 +24,8 @@ namespace kavrix::logging {
 std::string FormatLogLine(const LogRecord& record);
 
 // A sink that writes the lines to a stream, each in one piece under a lock of its own. The stream must
-// outlive it; set std::unitbuf on it to have every line flushed.
+// outlive the sink, which lives on after its removal where a record was begun before: see SetLoggerInstance.
+// Set std::unitbuf on it to have every line flushed.
 class StreamSink : public LogSink {
  public:
   explicit StreamSink(std::ostream& stream) : stream_(stream) {}

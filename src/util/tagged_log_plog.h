@@ -20,8 +20,8 @@ namespace kavrix::logging {
 
 // A sink that writes to a plog appender, or to a plog logger, which is an appender too and filters by its own
 // severity. Level 0 arrives as plog::info, level 1 as plog::error. plog has no tags: filter by tag before,
-// with LoggerInstance::tag_filter. The appender must outlive the sink and lock itself if several threads
-// decode.
+// with LoggerInstance::tag_filter. The appender must lock itself if several threads decode, and must outlive
+// the sink, which lives on after its removal where a record was begun before: see SetLoggerInstance.
 class PlogSink : public LogSink {
  public:
   explicit PlogSink(plog::IAppender& appender) : appender_(appender) {}

@@ -152,6 +152,19 @@ TEST_F(SinksTest, ASinkMayRemoveItself) {
   EXPECT_EQ(Base().content, "c");
 }
 
+TEST_F(SinksTest, AContextThatTheClientLetsGoOfLivesAsLongAsItsTransform) {
+  auto context = std::make_shared<KavrixContext>("ctx");
+  context->SetBubbleLayerConfig(MakeConfig());
+  const std::weak_ptr<KavrixContext> watched = context;
+  auto transform = std::make_unique<MapResourceTransform>(context);
+  Install({std::make_shared<FailingSink>([&](int) { context.reset(); }), LogLevel::kRoutine, {}});
+  transform->GetBubbleDrawDescriptor(good_, out_);
+  EXPECT_EQ(Base().style_name, "traffic_style");
+  EXPECT_FALSE(watched.expired());
+  transform.reset();
+  EXPECT_TRUE(watched.expired());
+}
+
 TEST_F(SinksTest, ATagFilterMayDecodeAndInstallAnother) {
   const auto second = std::make_shared<FailingSink>([](int) {});
   Install({std::make_shared<FailingSink>([](int) {}), LogLevel::kRoutine, [&](const std::string&) {

@@ -226,6 +226,29 @@ TEST_F(TaggedLogInstancesTest, FilterThatCameWithANullSinkMayInstallWhileItIsDes
   EXPECT_EQ(installed, 1);
 }
 
+TEST_F(TaggedLogInstancesTest, RemovalDoesNotWaitForARecordAndTheSinkLivesUntilItIsWritten) {
+  std::promise<void> begun;
+  std::promise<void> may_end;
+  auto sink = std::make_shared<FunctionSink>([&](const std::string& message) {
+    begun.set_value();
+    may_end.get_future().wait();
+    first_.push_back(message);
+  });
+  const std::weak_ptr<logging::LogSink> watched = sink;
+  SetLoggerInstance(kFirst, {std::move(sink), LogLevel::kRoutine, {}});
+  std::thread speaker([this] {
+    Say("a");
+    Say("b");
+  });
+  begun.get_future().wait();
+  SetLoggerInstance(kFirst, {});
+  EXPECT_FALSE(watched.expired());
+  may_end.set_value();
+  speaker.join();
+  EXPECT_TRUE(watched.expired());
+  EXPECT_THAT(first_, ElementsAre("[Kavrix][ctx]a"));
+}
+
 TEST_F(TaggedLogInstancesTest, ThreadsMayExchangeSinksWhileAnotherLogs) {
   constexpr int kRounds = 2000;
   std::atomic<int> delivered{0};
