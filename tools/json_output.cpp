@@ -15,8 +15,8 @@ class JsonMembers : public MemberVisitor {
   void Text(const char* name, const std::string& value) override { Named(name).Text(value); }
   void BeginList(const char* name) override { Named(name).BeginArray(); }
   void EndList() override { json_.EndArray(); }
-  void BeginRecord() override { json_.BeginObject(); }
-  void EndRecord() override { json_.EndObject(); }
+  void BeginObject() override { json_.BeginObject(); }
+  void EndObject() override { json_.EndObject(); }
 
  private:
   JsonWriter& Named(const char* name) {

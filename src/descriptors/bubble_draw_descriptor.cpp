@@ -59,8 +59,8 @@ class TextWriter : public MemberVisitor {
   void Text(const char* name, const std::string& value) override { AppendQuoted(Begin(name), value); }
   void BeginList(const char* name) override { Open(name, '['); }
   void EndList() override { Close(']'); }
-  void BeginRecord() override { Open("", '{'); }
-  void EndRecord() override { Close('}'); }
+  void BeginObject() override { Open("", '{'); }
+  void EndObject() override { Close('}'); }
 
   // In one piece and unformatted, so that nothing of the stream's state is looked at or changed.
   std::ostream& WriteTo(std::ostream& stream) {

@@ -22,10 +22,10 @@ class CameraDrawDescriptor : public BubbleDrawDescriptor {
   void VisitOwnMembers(MemberVisitor& visitor) const override {
     visitor.BeginList("cameras");
     for (const Camera& camera : cameras) {
-      visitor.BeginRecord();
+      visitor.BeginObject();
       visitor.Integer("type", camera.type);
       visitor.Integer("speed", camera.speed);
-      visitor.EndRecord();
+      visitor.EndObject();
     }
     visitor.EndList();
     visitor.Integer("distance", distance);

@@ -21,13 +21,13 @@ class Flattener : public MemberVisitor {
     next_index_ = 0;
   }
   void EndList() override { list_.clear(); }
-  void BeginRecord() override { record_ = ItemPath() + "."; }
-  void EndRecord() override { record_.clear(); }
+  void BeginObject() override { object_ = ItemPath() + "."; }
+  void EndObject() override { object_.clear(); }
 
  private:
   template <class Value>
   void Add(const char* name, const Value& value) {
-    std::string path = list_.empty() ? name : record_.empty() ? ItemPath() : record_ + name;
+    std::string path = list_.empty() ? name : object_.empty() ? ItemPath() : object_ + name;
     members_.push_back({std::move(path), value});
   }
 
@@ -35,7 +35,7 @@ class Flattener : public MemberVisitor {
 
   std::vector<FlatMember>& members_;
   std::string list_;    // the list being visited, if any
-  std::string record_;  // the path of the item being visited, if it is a record
+  std::string object_;  // the path of the item being visited, if it is a record
   std::size_t next_index_ = 0;
 };
 

@@ -22,8 +22,8 @@ class MemberVisitor {
   virtual void Text(const char* name, const std::string& value) = 0;
   virtual void BeginList(const char* name) = 0;
   virtual void EndList() = 0;
-  virtual void BeginRecord() = 0;
-  virtual void EndRecord() = 0;
+  virtual void BeginObject() = 0;
+  virtual void EndObject() = 0;
 };
 
 }  // namespace kavrix

@@ -29,13 +29,13 @@ class MultiLightCountdownTimerDrawDescriptor : public BubbleDrawDescriptor {
     visitor.Flag("is_animation", is_animation);
     visitor.BeginList("light_descriptors");
     for (const OneLightCountdownTimerDrawDescriptor& light : light_descriptors) {
-      visitor.BeginRecord();
+      visitor.BeginObject();
       visitor.Integer("light_type", light.light_type);
       visitor.Integer("turn_arrow_type", light.turn_arrow_type);
       visitor.Integer("remain_time", light.remain_time);
       visitor.Text("text", light.text);
       visitor.Integer("total_time", light.total_time);
-      visitor.EndRecord();
+      visitor.EndObject();
     }
     visitor.EndList();
   }

@@ -129,8 +129,8 @@ class Integers : public MemberVisitor {
   void Text(const char*, const std::string&) override {}
   void BeginList(const char*) override {}
   void EndList() override {}
-  void BeginRecord() override {}
-  void EndRecord() override {}
+  void BeginObject() override {}
+  void EndObject() override {}
   std::vector<std::pair<std::string, std::int64_t>> seen;
 };
 

@@ -60,11 +60,12 @@ TEST_F(MarkerNameTest, SuccessIsNotLoggedAndTakesNoSnapshot) {
 }
 
 TEST_F(MarkerNameTest, PrintsAllItsMembers) {
-  EXPECT_EQ(Printed(DecodeMarker(R"({"mode":1,"marker_type":9,"name":"A","resource_id":4,"is_main_map":1})")),
-            "MarkerDrawDescriptor{scene:0, content:\"kavrix://resource/camera_A\", lan:\"\", bubble_kind:21, "
-            "type:0, direction:0, mode_flag:false, style_name:\"\", icon:\"\", style_word:0, "
-            "style_scale:[0.000000, 0.000000], selected:false, is_force:true, marker_type:9, name:\"A\", "
-            "resource_id:4, is_main_map:true}");
+  EXPECT_EQ(
+      Printed(DecodeMarker(R"({"mode":1,"marker_type":9,"name":"A","resource_id":4,"is_main_map":1})")),
+      "MarkerDrawDescriptor{scene:0, content:\"kavrix://resource/camera_A\", lan:\"\", bubble_kind:21, "
+      "type:0, direction:0, mode_flag:false, style_name:\"\", icon:\"\", style_word:0, "
+      "style_scale:[0.000000, 0.000000], selected:false, is_force:true, marker_type:Camera, name:\"A\", "
+      "resource_id:4, is_main_map:true}");
 }
 
 TEST_F(MarkerNameTest, ForceIsSetWhateverTheNameSays) {
