@@ -79,11 +79,10 @@ NameResult ResultOf(const std::function<std::string()>& work) {
   }
 }
 
-void AddBulkOptions(CLI::App& command, BulkOptions& options) {
+void AddBulkOptions(Command& command, BulkOptions& options) {
   constexpr int kMostJobs = 256;
-  command.add_option("--jobs", options.jobs, "How many to work on at a time, on as many threads")
-      ->check(CLI::Range(1, kMostJobs));
-  command.add_flag("--unbuffered", options.unbuffered, "Write each result as soon as it is there");
+  command.Integer("--jobs", options.jobs, 1, kMostJobs, "How many to work on at a time, on as many threads");
+  command.Flag("--unbuffered", options.unbuffered, "Write each result as soon as it is there");
 }
 
 std::size_t WorkInBulk(const BulkOptions& options, const std::function<NameResult(std::string name)>& work) {

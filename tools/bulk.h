@@ -1,11 +1,12 @@
 #ifndef KAVRIX_TOOLS_BULK_H_
 #define KAVRIX_TOOLS_BULK_H_
 
-#include <CLI/CLI.hpp>
 #include <cstddef>
 #include <functional>
 #include <string>
 #include <vector>
+
+#include "tools/command_line.h"
 
 namespace kavrix::tools {
 
@@ -28,7 +29,7 @@ struct BulkOptions {
 };
 
 // Adds --jobs and --unbuffered to a command.
-void AddBulkOptions(CLI::App& command, BulkOptions& options);
+void AddBulkOptions(Command& command, BulkOptions& options);
 
 // Works on many names, `jobs` at a time, and writes the results to standard output, problems to standard
 // error, in the order of the names. Long runs show their progress where standard error is a terminal that has

@@ -67,28 +67,28 @@ int Run(const DecodeOptions& options) {
 
 }  // namespace
 
-void AddDecodeCommand(CLI::App& app, int& status) {
-  const auto options = std::make_shared<DecodeOptions>();
-  CLI::App* const command =
-      app.add_subcommand("decode", "Decode resource names and show all that comes of them");
-  command->add_option("NAME", options->bulk.names,
+CommandDescription DecodeCommand() {
+  const auto list_options = [](Command& command) -> std::function<int()> {
+    const auto options = std::make_shared<DecodeOptions>();
+
+    command.Arguments("NAME", options->bulk.names,
                       "Resource names; without any, one a line from standard input");
-  AddFormatOption(*command, options->format, {"text", "json"});
-  command->add_option("--config", options->config_path,
-                      "Configuration file; without it, the built-in default");
-  command->add_option("--prefix", options->prefix, "Prefix of the names instead of kavrix://resource/");
-  command->add_option("--context-name", options->context_name, "Context name in the log records");
-  command->add_flag("--marker", options->marker, "The names are marker names, not bubble names");
-  AddBulkOptions(*command, options->bulk);
-  command->add_flag("--null", options->bulk.null_delimited,
-                    "Names on standard input end in NUL, not newline");
-  command->add_flag("--fields", options->fields, "Print what the names carry, in the form that encode reads");
-  command->add_flag("--all", options->all_members, "In text, show members that hold their defaults too");
-  command->footer(
-      "Exit status: 0 every name decoded, 1 some name failed (no marker, a payload that does not\n"
-      "parse, an exception), 2 usage or input/output trouble. A failed name never stops the others.\n"
-      "A name that begins with a dash goes behind \"--\".");
-  command->callback([options, &status] { status = Run(*options); });
+    AddFormatOption(command, options->format, {"text", "json"});
+    command.Text("--config", options->config_path, "Configuration file; without it, the built-in default");
+    command.Text("--prefix", options->prefix, "Prefix of the names instead of kavrix://resource/");
+    command.Text("--context-name", options->context_name, "Context name in the log records");
+    command.Flag("--marker", options->marker, "The names are marker names, not bubble names");
+    AddBulkOptions(command, options->bulk);
+    command.Flag("--null", options->bulk.null_delimited, "Names on standard input end in NUL, not newline");
+    command.Flag("--fields", options->fields, "Print what the names carry, in the form that encode reads");
+    command.Flag("--all", options->all_members, "In text, show members that hold their defaults too");
+    command.Footer(
+        "Exit status: 0 every name decoded, 1 some name failed (no marker, a payload that does not\n"
+        "parse, an exception), 2 usage or input/output trouble. A failed name never stops the others.\n"
+        "A name that begins with a dash goes behind \"--\".");
+    return [options] { return Run(*options); };
+  };
+  return {"decode", "Decode resource names and show all that comes of them", list_options};
 }
 
 }  // namespace kavrix::tools

@@ -59,7 +59,7 @@ std::string Ended(const std::string& name, char end) {
 int Run(const EncodeOptions& options) {
   if (options.prefix) MapResourceManager::kavrix_resource_prefix = options.prefix->c_str();
   if (!options.bulk.names.empty() && !options.kind) {
-    throw CLI::ValidationError("FIELDS on the command line need --kind");
+    throw UsageError("FIELDS on the command line need --kind");
   }
   const char end = options.null_delimited ? '\0' : '\n';
   const auto encode = [&](const std::string& text) {
@@ -74,24 +74,26 @@ int Run(const EncodeOptions& options) {
 
 }  // namespace
 
-void AddEncodeCommand(CLI::App& app, int& status) {
-  const auto options = std::make_shared<EncodeOptions>();
-  CLI::App* const command = app.add_subcommand("encode", "Build resource names from what they shall carry");
-  command->add_option(
-      "FIELDS", options->bulk.names,
-      "JSON objects of fields, with --kind; without any, one {\"kind\": ..., \"fields\": ...} a line "
-      "from standard input");
-  command->add_option("--kind", options->kind,
-                      "The kind of all bubbles; lines of input are then fields alone");
-  command->add_option("--prefix", options->prefix, "Prefix of the names instead of kavrix://resource/");
-  command->add_flag("--null", options->null_delimited, "End names in NUL, not newline");
-  AddBulkOptions(*command, options->bulk);
-  command->footer(
-      "\"kavrix-resource kinds\" shows the fields of each kind. What a name could not carry unchanged is "
-      "refused with\n"
-      "the line, the field and the character; the other lines go on.\n"
-      "Exit status: 0 every bubble encoded, 1 some could not be, 2 usage or input/output trouble.");
-  command->callback([options, &status] { status = Run(*options); });
+CommandDescription EncodeCommand() {
+  const auto list_options = [](Command& command) -> std::function<int()> {
+    const auto options = std::make_shared<EncodeOptions>();
+
+    command.Arguments(
+        "FIELDS", options->bulk.names,
+        "JSON objects of fields, with --kind; without any, one {\"kind\": ..., \"fields\": ...} a line "
+        "from standard input");
+    command.Text("--kind", options->kind, "The kind of all bubbles; lines of input are then fields alone");
+    command.Text("--prefix", options->prefix, "Prefix of the names instead of kavrix://resource/");
+    command.Flag("--null", options->null_delimited, "End names in NUL, not newline");
+    AddBulkOptions(command, options->bulk);
+    command.Footer(
+        "\"kavrix-resource kinds\" shows the fields of each kind. What a name could not carry unchanged is "
+        "refused with\n"
+        "the line, the field and the character; the other lines go on.\n"
+        "Exit status: 0 every bubble encoded, 1 some could not be, 2 usage or input/output trouble.");
+    return [options] { return Run(*options); };
+  };
+  return {"encode", "Build resource names from what they shall carry", list_options};
 }
 
 }  // namespace kavrix::tools

@@ -1,13 +1,12 @@
 #ifndef KAVRIX_TOOLS_ENCODE_COMMAND_H_
 #define KAVRIX_TOOLS_ENCODE_COMMAND_H_
 
-#include <CLI/CLI.hpp>
+#include "tools/command_line.h"
 
 namespace kavrix::tools {
 
-// Adds "encode" to the tool; its exit status is stored in `status`: 0 every bubble encoded, 1 some could not
-// be.
-void AddEncodeCommand(CLI::App& app, int& status);
+// Exit status: 0 every bubble encoded, 1 some could not be.
+CommandDescription EncodeCommand();
 
 }  // namespace kavrix::tools
 

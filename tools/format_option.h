@@ -1,9 +1,10 @@
 #ifndef KAVRIX_TOOLS_FORMAT_OPTION_H_
 #define KAVRIX_TOOLS_FORMAT_OPTION_H_
 
-#include <CLI/CLI.hpp>
 #include <string>
 #include <vector>
+
+#include "tools/command_line.h"
 
 namespace kavrix::tools {
 
@@ -11,7 +12,7 @@ namespace kavrix::tools {
 bool ToTerminal();
 
 // Adds --format to a command, with "text" on a terminal and "json" elsewhere unless the user says otherwise.
-void AddFormatOption(CLI::App& command, std::string& format, const std::vector<std::string>& formats);
+void AddFormatOption(Command& command, std::string& format, const std::vector<std::string>& formats);
 
 }  // namespace kavrix::tools
 

@@ -102,14 +102,16 @@ int Run(const IconsOptions& options) {
 
 }  // namespace
 
-void AddIconsCommand(CLI::App& app, int& status) {
-  const auto options = std::make_shared<IconsOptions>();
-  CLI::App* const command =
-      app.add_subcommand("icons", "Show the catalogue of built-in icons, day and night");
-  command->add_option("QUERY", options->queries,
+CommandDescription IconsCommand() {
+  const auto list_options = [](Command& command) -> std::function<int()> {
+    const auto options = std::make_shared<IconsOptions>();
+
+    command.Arguments("QUERY", options->queries,
                       "Ids (65537, 0x10001) or parts of descriptions; without any, all icons");
-  AddFormatOption(*command, options->format, {"text", "json"});
-  command->callback([options, &status] { status = Run(*options); });
+    AddFormatOption(command, options->format, {"text", "json"});
+    return [options] { return Run(*options); };
+  };
+  return {"icons", "Show the catalogue of built-in icons, day and night", list_options};
 }
 
 }  // namespace kavrix::tools

@@ -1,12 +1,12 @@
 #ifndef KAVRIX_TOOLS_ICONS_COMMAND_H_
 #define KAVRIX_TOOLS_ICONS_COMMAND_H_
 
-#include <CLI/CLI.hpp>
+#include "tools/command_line.h"
 
 namespace kavrix::tools {
 
-// Adds "icons" to the tool; its exit status is stored in `status`: 0 icons found, 1 a query found none.
-void AddIconsCommand(CLI::App& app, int& status);
+// Exit status: 0 icons found, 1 a query found none.
+CommandDescription IconsCommand();
 
 }  // namespace kavrix::tools
 

@@ -151,7 +151,7 @@ int Run(const KindsOptions& options) {
   for (const std::string& name : options.names) {
     const auto is_called_so = [&](const Kind& kind) { return kind.IsCalled(name); };
     if (std::none_of(kinds.begin(), kinds.end(), is_called_so)) {
-      throw CLI::ValidationError("no kind is called \"" + name + "\"; \"kinds\" alone lists them all");
+      throw UsageError("no kind is called \"" + name + "\"; \"kinds\" alone lists them all");
     }
   }
   for (const Kind& kind : kinds) {
@@ -168,13 +168,16 @@ int Run(const KindsOptions& options) {
 
 }  // namespace
 
-void AddKindsCommand(CLI::App& app, int& status) {
-  const auto options = std::make_shared<KindsOptions>();
-  CLI::App* const command = app.add_subcommand("kinds", "Show what names of each kind look like and carry");
-  command->add_option("KIND", options->names,
+CommandDescription KindsCommand() {
+  const auto list_options = [](Command& command) -> std::function<int()> {
+    const auto options = std::make_shared<KindsOptions>();
+
+    command.Arguments("KIND", options->names,
                       "Kinds such as etaBubble, or marker for marker names; without any, all");
-  AddFormatOption(*command, options->format, {"text", "json", "markdown"});
-  command->callback([options, &status] { status = Run(*options); });
+    AddFormatOption(command, options->format, {"text", "json", "markdown"});
+    return [options] { return Run(*options); };
+  };
+  return {"kinds", "Show what names of each kind look like and carry", list_options};
 }
 
 }  // namespace kavrix::tools

@@ -1,12 +1,12 @@
 #ifndef KAVRIX_TOOLS_KINDS_COMMAND_H_
 #define KAVRIX_TOOLS_KINDS_COMMAND_H_
 
-#include <CLI/CLI.hpp>
+#include "tools/command_line.h"
 
 namespace kavrix::tools {
 
-// Adds "kinds" to the tool; its exit status is stored in `status` as for "decode".
-void AddKindsCommand(CLI::App& app, int& status);
+// Exit status: 0.
+CommandDescription KindsCommand();
 
 }  // namespace kavrix::tools
 
