@@ -19,6 +19,7 @@ class RoundTrip {
   void CheckName(const std::string& name) const {
     const std::optional<std::string> fields = ReadFields(name);
     if (!fields) return;
+    CheckFields(*fields);
     const std::optional<std::string> encoded = Encode(Parsed(*fields));
     if (!encoded) return;
     if (GoesElsewhere(name)) return;

@@ -9,6 +9,7 @@
 #include "tools/bulk.h"
 #include "util/json_value.h"
 #include "util/strict_json.h"
+#include "util/utf8.h"
 
 namespace kavrix::tools {
 namespace {
@@ -30,7 +31,8 @@ Json::Value ParseJson(const std::string& text) {
 std::string EncodeKind(const std::string& kind_name, const Json::Value& fields) {
   const BubbleKindInfo* const info = FindKindInfo(kind_name);
   if (info == nullptr) {
-    throw std::runtime_error("no kind is called \"" + kind_name + "\"; kavrix-resource kinds lists them");
+    throw std::runtime_error("no kind is called \"" + Excerpt(kind_name) +
+                             "\"; kavrix-resource kinds lists them");
   }
   return info->codec.encode_fields(fields);
 }
@@ -43,7 +45,7 @@ std::string EncodeLine(const std::string& line) {
   const auto kind_name = kind != nullptr ? JsonUtil::AsText(*kind) : std::nullopt;
   if (!kind_name || fields == nullptr || bubble.size() != 2) {
     throw std::runtime_error("expected {\"kind\": text, \"fields\": object} and nothing else, found " +
-                             JsonUtil::Excerpt(JsonUtil::SourceOf(bubble, line)));
+                             Excerpt(JsonUtil::SourceOf(bubble, line)));
   }
   return EncodeKind(std::string(*kind_name), *fields);
 }

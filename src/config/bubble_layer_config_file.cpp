@@ -6,8 +6,10 @@
 #include <optional>
 #include <string_view>
 
+#include "util/json_number.h"
 #include "util/json_value.h"
 #include "util/strict_json.h"
+#include "util/utf8.h"
 
 namespace kavrix {
 namespace {
@@ -15,7 +17,7 @@ namespace {
 constexpr const char* kWord = "an integer from 0 to 4294967295 or a text such as \"0xffff0000\"";
 
 [[noreturn]] void FailUnknown(const std::string& where, const std::string& key, const char* expected) {
-  throw ConfigError(where + ": unknown key " + JsonUtil::ToText(Json::Value(key)) + ", expected " + expected);
+  throw ConfigError(where + ": unknown key \"" + Excerpt(key) + "\", expected " + expected);
 }
 
 // The word that a text such as "0xffff0000" stands for.
@@ -59,7 +61,7 @@ class ConfigReader {
  private:
   [[noreturn]] void Fail(const std::string& where, const char* expected, const Json::Value& value) const {
     throw ConfigError(where + ": expected " + expected + ", found " +
-                      JsonUtil::Excerpt(JsonUtil::SourceOf(value, text_)));
+                      Excerpt(JsonUtil::SourceOf(value, text_)));
   }
 
   void RequireObject(const std::string& where, const Json::Value& value) const {

@@ -18,7 +18,8 @@ struct BubbleLayerConfigFile {
   MarkerBubbleConfig marker_bubble;  // for MapResourceTransform::SetMarkerBubbleConfig
 };
 
-// Says what of the text could not be used: the record, the value's number, what was found, what was expected.
+// Says what of the text could not be used: the record, the value's number, what was expected, what was found.
+// What was found is quoted as it is, control characters included, and cut after 60 characters.
 class ConfigError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;

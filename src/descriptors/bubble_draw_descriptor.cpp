@@ -62,9 +62,11 @@ class TextWriter : public MemberVisitor {
   void BeginObject() override { Open("", '{'); }
   void EndObject() override { Close('}'); }
 
-  // In one piece and unformatted, so that nothing of the stream's state is looked at or changed.
+  // In one piece and unformatted, so that nothing of the stream's state is looked at. The width is used up,
+  // as by any other value.
   std::ostream& WriteTo(std::ostream& stream) {
     text_ += '}';
+    stream.width(0);
     return stream.write(text_.data(), static_cast<std::streamsize>(text_.size()));
   }
 

@@ -7,9 +7,6 @@
 // traffic tag; success is not logged. "is_main_map" counts when not 0. The content is the image key: prefix,
 // the marker type's name in lower case, "_" and the marker's name in its own case.
 
-#include <locale>
-#include <sstream>
-
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_manager.h"
 #include "map_resource/map_resource_transform.h"
@@ -41,19 +38,12 @@ struct MarkerFormat : JsonFormat<MarkerFormat, MarkerDrawDescriptor> {
   }
 };
 
-std::string TypeText(std::int16_t marker_type) {
-  std::ostringstream stream;
-  stream.imbue(std::locale::classic());
-  stream << MarkerType(marker_type);
-  return ToLowerASCII(stream.str());
-}
-
 // What a marker has that its name does not carry.
 void Complete(MarkerDrawDescriptor& marker) {
   marker.bubble_kind = kKindCode;
   marker.is_force = true;
-  marker.content =
-      MapResourceManager::kavrix_resource_prefix + TypeText(marker.marker_type) + "_" + marker.name;
+  marker.content = MapResourceManager::kavrix_resource_prefix +
+                   ToLowerASCII(MarkerTypeName(MarkerType(marker.marker_type))) + "_" + marker.name;
 }
 
 }  // namespace

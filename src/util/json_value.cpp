@@ -5,6 +5,7 @@
 
 #include "util/json_nesting.h"
 #include "util/strict_json.h"
+#include "util/utf8.h"
 
 // Some JsonCpp versions mark the legacy reader deprecated. Its accept set is the contract, so it stays.
 #if defined(__GNUC__)

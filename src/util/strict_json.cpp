@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
-#include <cstdlib>
 
+#include "util/json_number.h"
 #include "util/utf8.h"
 
 namespace kavrix::JsonUtil {
@@ -39,7 +39,7 @@ std::string Hex(std::uint32_t number, std::size_t digits, const char* digit_set)
   return hex;
 }
 
-// The first character of `rest` for a message, in which it shows whatever it is.
+// The first character of `rest` for a message; beyond ASCII with its number, because some do not show.
 std::string Found(std::string_view rest) {
   constexpr char32_t kByteOrderMark = 0xFEFF;
   if (rest.empty()) return "the end";
@@ -50,7 +50,9 @@ std::string Found(std::string_view rest) {
   if (IsControl(piece.code_point) || piece.code_point == kByteOrderMark) {
     return "U+" + Hex(piece.code_point, 4, "0123456789ABCDEF");
   }
-  return "'" + std::string(rest.substr(0, piece.length)) + "'";
+  const std::string shown = "'" + std::string(rest.substr(0, piece.length)) + "'";
+  if (piece.code_point < 0x80) return shown;
+  return shown + " (U+" + Hex(piece.code_point, 4, "0123456789ABCDEF") + ")";
 }
 
 std::size_t CharacterCount(std::string_view text) {
@@ -75,7 +77,7 @@ class StrictReader {
  private:
   Json::Value ReadValue(std::size_t depth) {
     if (depth > kDeepestStrictValue) {
-      FailFor("no value nested deeper than " + std::to_string(kDeepestStrictValue) + " levels");
+      Fail("nested deeper than " + std::to_string(kDeepestStrictValue) + " levels");
     }
     const std::size_t begin = at_;
     Json::Value value = ReadAnyType(depth);
@@ -115,7 +117,7 @@ class StrictReader {
     if (object.isMember(key)) {
       const std::string_view source = text_.substr(begin + 1, at_ - begin - 2);
       at_ = begin;
-      Fail("Duplicate key: '" + Excerpt(source) + "'");
+      Fail("key \"" + Excerpt(source) + "\" is there twice");
     }
     SkipBlanks();
     Require(':', "':'");
@@ -153,7 +155,7 @@ class StrictReader {
     const Utf8Piece piece = NextUtf8(text_.substr(at_));
     if (piece.length == 0) FailFor("'\"'");
     if (!piece.is_valid) FailFor("UTF-8");
-    if (piece.code_point < 0x20) FailFor("no control character in a string");
+    if (piece.code_point < 0x20) FailFor("an escape such as \\t");
     text += text_.substr(at_, piece.length);
     at_ += piece.length;
   }
@@ -179,7 +181,7 @@ class StrictReader {
       if (IsLowSurrogate(second)) return 0x10000 + ((first - 0xD800) << 10) + (second - 0xDC00);
     }
     at_ = begin;
-    FailFor("surrogates in pairs");
+    Fail("half of a surrogate pair");
   }
 
   char32_t ReadFourDigits() {
@@ -196,7 +198,7 @@ class StrictReader {
     const std::size_t begin = at_;
     Take('-');
     if (Take('0')) {
-      if (IsDigitNext()) FailFor("no digit after a leading 0");
+      if (IsDigitNext()) Fail("a number does not begin with 0");
     } else {
       TakeDigits();
     }
@@ -250,38 +252,20 @@ class StrictReader {
   }
 
   [[noreturn]] void Fail(const std::string& message) const {
-    const std::string_view before = text_.substr(0, at_);
-    const auto lines_before = std::count(before.begin(), before.end(), '\n');
-    const std::string_view line = before.substr(before.rfind('\n') + 1);  // npos + 1 is 0
-    throw JsonError("Line " + std::to_string(lines_before + 1) + ", Column " +
+    std::size_t line_number = 1;
+    std::string_view line = text_.substr(0, at_);
+    for (std::size_t end = line.find_first_of("\r\n"); end != std::string_view::npos;
+         end = line.find_first_of("\r\n")) {
+      line.remove_prefix(line.substr(end, 2) == "\r\n" ? end + 2 : end + 1);
+      ++line_number;
+    }
+    throw JsonError("Line " + std::to_string(line_number) + ", Column " +
                     std::to_string(CharacterCount(line) + 1) + ": " + message);
   }
 
   const std::string_view text_;
   std::size_t at_ = 0;
 };
-
-// The C library takes the decimal point from its locale, so it gets the digits without one: 1.5 as 15e-1.
-std::string WithoutPoint(std::string_view number) {
-  constexpr std::int64_t kFar = 1'000'000'000'000;  // zero or infinity for any text that fits into memory
-  const std::size_t end_of_digits = std::min(number.find_first_of("eE"), number.size());
-  std::string digits(number.substr(0, end_of_digits));
-  number.remove_prefix(std::min(end_of_digits + 1, number.size()));
-
-  std::int64_t exponent = 0;
-  const bool is_negative = number.substr(0, 1) == "-";
-  for (const char c : number) {
-    if (IsDigit(c)) exponent = std::min(exponent * 10 + (c - '0'), kFar);
-  }
-  if (is_negative) exponent = -exponent;
-
-  const std::size_t point = digits.find('.');
-  if (point != std::string::npos) {
-    exponent -= static_cast<std::int64_t>(digits.size() - point - 1);
-    digits.erase(point, 1);
-  }
-  return digits + "e" + std::to_string(exponent);
-}
 
 }  // namespace
 
@@ -291,16 +275,5 @@ std::string_view SourceOf(const Json::Value& value, std::string_view text) {
   const auto begin = static_cast<std::size_t>(value.getOffsetStart());
   return text.substr(begin, static_cast<std::size_t>(value.getOffsetLimit()) - begin);
 }
-
-std::string Excerpt(std::string_view text) {
-  constexpr int kMostCharacters = 60;
-  std::size_t length = 0;
-  for (int i = 0; i < kMostCharacters; ++i) length += NextUtf8(text.substr(length)).length;
-  return std::string(text.substr(0, length)) + (length < text.size() ? "..." : "");
-}
-
-float NearestFloat(std::string_view number) { return std::strtof(WithoutPoint(number).c_str(), nullptr); }
-
-double NearestDouble(std::string_view number) { return std::strtod(WithoutPoint(number).c_str(), nullptr); }
 
 }  // namespace kavrix::JsonUtil

@@ -31,13 +31,6 @@ Json::Value ReadStrictly(std::string_view text);
 // What stands in `text` at the place of a value that ReadStrictly read from it.
 std::string_view SourceOf(const Json::Value& value, std::string_view text);
 
-// The first 60 characters, and "..." where the text goes on. For messages.
-std::string Excerpt(std::string_view text);
-
-// The float or double nearest to a JSON number; infinity for numbers beyond the largest.
-float NearestFloat(std::string_view number);
-double NearestDouble(std::string_view number);
-
 }  // namespace kavrix::JsonUtil
 
 #endif  // KAVRIX_UTIL_STRICT_JSON_H_

@@ -18,12 +18,19 @@ using InstancePointer = std::shared_ptr<const LoggerInstance>;
 // The lock covers only the look-up: no sink and no filter runs under it, nor is one destroyed.
 class InstanceTable {
  public:
-  // Null removes.
   void Set(std::uint32_t id, InstancePointer instance) {
     const std::lock_guard<std::mutex> lock(mutex_);
-    InstancePointer& slot = instances_[id];
-    slot.swap(instance);  // what was installed before goes with the parameter, after the lock
-    if (slot == nullptr) instances_.erase(id);
+    instances_[id].swap(instance);  // what was installed before goes with the parameter, after the lock
+    is_empty_ = false;
+  }
+
+  void Remove(std::uint32_t id) {
+    InstancePointer removed;  // goes after the lock
+    const std::lock_guard<std::mutex> lock(mutex_);
+    const auto found = instances_.find(id);
+    if (found == instances_.end()) return;
+    removed = std::move(found->second);
+    instances_.erase(found);
     is_empty_ = instances_.empty();
   }
 
@@ -51,9 +58,8 @@ InstanceTable& Instances() {
 }  // namespace
 
 void SetLoggerInstance(std::uint32_t instance_id, LoggerInstance instance) {
-  const bool is_removal = instance.sink == nullptr;
-  Instances().Set(instance_id,
-                  is_removal ? nullptr : std::make_shared<const LoggerInstance>(std::move(instance)));
+  if (instance.sink == nullptr) return Instances().Remove(instance_id);
+  Instances().Set(instance_id, std::make_shared<const LoggerInstance>(std::move(instance)));
 }
 
 bool Logger::TestLogLevelAndTag(std::uint32_t instance_id, LogLevel level, const std::string& tag) noexcept {

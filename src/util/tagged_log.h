@@ -50,10 +50,11 @@ struct LoggerInstance {
 // time.
 extern std::atomic<std::uint32_t> kavrix_log_instance_id_;
 
-// Installs, replaces or (with a null sink) removes an instance. Records begun before still reach their old
-// sink, also after this returned; the sink and the filter are destroyed after the last of them, perhaps on
-// the thread that wrote it, with no lock held. An instance that is still installed when the process ends is
-// never destroyed, so that static destructors may log: remove a sink that flushes in its destructor.
+// Installs, replaces or, with a null sink, removes an instance. Removing does not throw. Records begun before
+// still reach their old sink, also after this returned; the sink and the filter are destroyed after the last
+// of them, perhaps on the thread that wrote it, with no lock held. An instance that is still installed when
+// the process ends is never destroyed, so that static destructors may log: remove a sink that flushes in its
+// destructor.
 void SetLoggerInstance(std::uint32_t instance_id, LoggerInstance instance);
 
 class Logger {

@@ -74,6 +74,13 @@ std::size_t ValidUtf8Length(std::string_view text) {
   }
 }
 
+std::string Excerpt(std::string_view text) {
+  constexpr int kMostCharacters = 60;
+  std::size_t length = 0;
+  for (int i = 0; i < kMostCharacters; ++i) length += NextUtf8(text.substr(length)).length;
+  return std::string(text.substr(0, length)) + (length < text.size() ? "..." : "");
+}
+
 std::string ToValidUtf8(std::string_view text) {
   std::string valid;
   valid.reserve(text.size());

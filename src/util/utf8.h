@@ -25,6 +25,9 @@ bool IsControl(char32_t c);
 // How many bytes at the beginning are valid characters; the size of the text when all are.
 std::size_t ValidUtf8Length(std::string_view text);
 
+// The first 60 characters, and "..." where the text goes on. For messages.
+std::string Excerpt(std::string_view text);
+
 // A copy with every piece that is not valid replaced by U+FFFD.
 std::string ToValidUtf8(std::string_view text);
 

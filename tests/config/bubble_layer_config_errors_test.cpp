@@ -52,8 +52,9 @@ TEST(BubbleLayerConfigErrorsTest, TextThatOnlyLenientReadersTake) {
 
 TEST(BubbleLayerConfigErrorsTest, KeyThatStandsTwice) {
   EXPECT_THAT(ErrorOf(R"({"context_name":"a","context_name":"b"})"),
-              HasSubstr("Duplicate key: 'context_name'"));
-  EXPECT_THAT(ErrorOfLayer(R"("turn_style":{},"turn_style":{})"), HasSubstr("Duplicate key: 'turn_style'"));
+              HasSubstr(R"(key "context_name" is there twice)"));
+  EXPECT_THAT(ErrorOfLayer(R"("turn_style":{},"turn_style":{})"),
+              HasSubstr(R"(key "turn_style" is there twice)"));
 }
 
 TEST(BubbleLayerConfigErrorsTest, RootThatIsNoObject) {

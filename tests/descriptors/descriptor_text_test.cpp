@@ -121,7 +121,7 @@ TEST(DescriptorTextTest, LeavesTheStateOfTheStreamAsItWas) {
   EXPECT_EQ(stream.flags(), flags);
   EXPECT_EQ(stream.precision(), 3);
   EXPECT_EQ(stream.fill(), '*');
-  EXPECT_EQ(stream.width(), 20);
+  EXPECT_EQ(stream.width(), 0);
   EXPECT_EQ(stream.getloc(), locale);
   EXPECT_TRUE(stream.good());
 }

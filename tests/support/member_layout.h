@@ -24,7 +24,8 @@ std::size_t EndOf(Member Owner::*member, const Object& object) {
 }
 
 // The members of `Owner` itself follow one another in this order from byte `begin` on, with nothing between
-// them and after the last but what their alignment needs: one too many, too few or in another place is seen.
+// them and after the last but what their alignment needs: one too few or in another place is seen, and one
+// too many unless it fits into that padding.
 template <class Owner, class... Members>
 void ExpectMembers(const Owner& object, std::size_t begin, Members Owner::*... members) {
   std::size_t number = 0;

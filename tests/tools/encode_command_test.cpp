@@ -114,6 +114,17 @@ TEST(EncodeCommandTest, LongNumbersAndTextsGiveShortMessages) {
               HasSubstr("found {\"kind\":\"" + digits.substr(0, 51) + "...\n"));
 }
 
+TEST(EncodeCommandTest, LongKindsAndKeysAreCutInMessages) {
+  const std::string long_text(100000, 'k');
+  const std::string cut = std::string(60, 'k') + "...";
+  EXPECT_EQ(
+      RunTool({"encode", "--kind", long_text, "{}"}).errors,
+      "kavrix-resource: fields 1: no kind is called \"" + cut + "\"; kavrix-resource kinds lists them\n");
+  EXPECT_EQ(RunTool({"encode", "--kind", "turnBubble"}, "{\"" + long_text + "\":1}").errors,
+            "kavrix-resource: line 1: turnBubble: " + cut +
+                ": names of this kind do not carry this key; the reader would have ignored it\n");
+}
+
 TEST(EncodeCommandTest, FieldsOnTheCommandLineNeedAKind) {
   const ToolResult result = RunTool({"encode", "{}"});
   EXPECT_EQ(result.status, 2);

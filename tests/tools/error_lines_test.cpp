@@ -45,7 +45,6 @@ void ExpectOneHarmlessLine(const ToolResult& result) {
 
 TEST(ErrorLinesTest, TextOfArgumentsIsEscaped) {
   const std::vector<std::string> commands[] = {
-      {kEvil},
       {"decode", "--" + kEvil},
       {"decode", "--format", kEvil, "x"},
       {"decode", "--jobs", kEvil, "x"},

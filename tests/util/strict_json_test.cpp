@@ -13,7 +13,9 @@
 
 #include "tests/support/effort.h"
 #include "tests/support/global_locale.h"
+#include "util/json_number.h"
 #include "util/json_value.h"
+#include "util/utf8.h"
 
 namespace kavrix::test {
 namespace {
@@ -97,8 +99,10 @@ TEST(StrictJsonTest, ErrorsHaveLineColumnExpectedAndFound) {
       {R"({"a"=1})", "Line 1, Column 5: expected ':', found '='"},
       {R"({"a":1 "b":2})", "Line 1, Column 8: expected ',' or '}', found '\"'"},
       {"{\"前\": 1\r\n;", "Line 2, Column 1: expected ',' or '}', found ';'"},
+      {"{\r \"a\":1\r\n\r\n;", "Line 4, Column 1: expected ',' or '}', found ';'"},
+      {"[\xC2\xA0]", "Line 1, Column 2: expected a value, found '\xC2\xA0' (U+00A0)"},
       {"[1,]", "Line 1, Column 4: expected a value, found ']'"},
-      {"[\"前\",前]", "Line 1, Column 6: expected a value, found '前'"},
+      {"[\"前\",前]", "Line 1, Column 6: expected a value, found '前' (U+524D)"},
       {"[\xFF]", "Line 1, Column 2: expected a value, found the byte 0xff"},
       {"[1", "Line 1, Column 3: expected ',' or ']', found the end"},
       {"[nul]", "Line 1, Column 2: expected a value, found 'n'"},
@@ -110,43 +114,40 @@ TEST(StrictJsonTest, ErrorsHaveLineColumnExpectedAndFound) {
       {"[5.]", "Line 1, Column 4: expected a digit, found ']'"},
       {"[1e]", "Line 1, Column 4: expected a digit, found ']'"},
       {"[1e+]", "Line 1, Column 5: expected a digit, found ']'"},
-      {"[01]", "Line 1, Column 3: expected no digit after a leading 0, found '1'"},
-      {"[-00]", "Line 1, Column 4: expected no digit after a leading 0, found '0'"},
-      {"[\"a\nb\"]", "Line 1, Column 4: expected no control character in a string, found U+000A"},
-      {"[\"a\0\"]"s, "Line 1, Column 4: expected no control character in a string, found U+0000"},
-      {"[\"\x1F\"]", "Line 1, Column 3: expected no control character in a string, found U+001F"},
+      {"[01]", "Line 1, Column 3: a number does not begin with 0"},
+      {"[-00]", "Line 1, Column 4: a number does not begin with 0"},
+      {"[\"a\nb\"]", "Line 1, Column 4: expected an escape such as \\t, found U+000A"},
+      {"[\"a\0\"]"s, "Line 1, Column 4: expected an escape such as \\t, found U+0000"},
+      {"[\"\x1F\"]", "Line 1, Column 3: expected an escape such as \\t, found U+001F"},
       {"[\"\xED\xA0\x80\"]", "Line 1, Column 3: expected UTF-8, found the byte 0xed"},
       {"[\"a", "Line 1, Column 4: expected '\"', found the end"},
       {R"(["\x"])", R"(Line 1, Column 4: expected one of " \ / b f n r t u after '\', found 'x')"},
       {"[\"\\", R"(Line 1, Column 4: expected one of " \ / b f n r t u after '\', found the end)"},
       {R"(["\u12g4"])", "Line 1, Column 7: expected four hexadecimal digits, found 'g'"},
       {R"(["\u-123"])", "Line 1, Column 5: expected four hexadecimal digits, found '-'"},
-      {R"(["\ud800"])", "Line 1, Column 3: expected surrogates in pairs, found '\\'"},
-      {R"(["\udc00\ud800"])", "Line 1, Column 3: expected surrogates in pairs, found '\\'"},
-      {R"(["\ud800\u0041"])", "Line 1, Column 3: expected surrogates in pairs, found '\\'"},
-      {R"(["\ud800\ud800"])", "Line 1, Column 3: expected surrogates in pairs, found '\\'"},
-      {"{\"k\":1,\n \"\\u006b\":2}", "Line 2, Column 2: Duplicate key: '\\u006b'"},
+      {R"(["\ud800"])", "Line 1, Column 3: half of a surrogate pair"},
+      {R"(["\udc00\ud800"])", "Line 1, Column 3: half of a surrogate pair"},
+      {R"(["\ud800\u0041"])", "Line 1, Column 3: half of a surrogate pair"},
+      {R"(["\ud800\ud800"])", "Line 1, Column 3: half of a surrogate pair"},
+      {"{\"k\":1,\n \"\\u006b\":2}", "Line 2, Column 2: key \"\\u006b\" is there twice"},
   };
   for (const auto& [text, error] : errors) EXPECT_EQ(ErrorOf(text), error) << text;
 }
 
 TEST(StrictJsonTest, NestingOver256LevelsIsAnErrorHoweverDeep) {
   EXPECT_EQ(ErrorOf(Nested(256)), "");
-  EXPECT_EQ(ErrorOf("[" + Nested(256) + "]"),
-            "Line 1, Column 257: expected no value nested deeper than 256 levels, found '['");
+  EXPECT_EQ(ErrorOf("[" + Nested(256) + "]"), "Line 1, Column 257: nested deeper than 256 levels");
   EXPECT_EQ(ErrorOf(std::string(255, '[') + "1" + std::string(255, ']')), "");
-  EXPECT_EQ(ErrorOf(std::string(256, '[') + "1"),
-            "Line 1, Column 257: expected no value nested deeper than 256 levels, found '1'");
+  EXPECT_EQ(ErrorOf(std::string(256, '[') + "1"), "Line 1, Column 257: nested deeper than 256 levels");
   std::string objects;
   for (int i = 0; i < 1'000'000; ++i) objects += R"({"a":)";
-  EXPECT_EQ(ErrorOf(objects),
-            "Line 1, Column 1281: expected no value nested deeper than 256 levels, found '{'");
+  EXPECT_EQ(ErrorOf(objects), "Line 1, Column 1281: nested deeper than 256 levels");
 }
 
 TEST(StrictJsonTest, MessagesStayShort) {
   const std::string key(100'000, 'k');
   EXPECT_EQ(ErrorOf("{\"" + key + "\":1,\"" + key + "\":2}"),
-            "Line 1, Column 100007: Duplicate key: '" + key.substr(0, 60) + "...'");
+            "Line 1, Column 100007: key \"" + key.substr(0, 60) + "...\" is there twice");
   EXPECT_EQ(ErrorOf("[" + std::string(100'000, '9') + "x]"),
             "Line 1, Column 100002: expected ',' or ']', found 'x'");
 }
@@ -157,11 +158,11 @@ TEST(StrictJsonTest, ExcerptIsCutBetweenCharacters) {
     for (std::size_t i = 0; i < count; ++i) repeated += text;
     return repeated;
   };
-  EXPECT_EQ(JsonUtil::Excerpt(""), "");
-  EXPECT_EQ(JsonUtil::Excerpt(times(60, "a")), times(60, "a"));
-  EXPECT_EQ(JsonUtil::Excerpt(times(61, "a")), times(60, "a") + "...");
-  EXPECT_EQ(JsonUtil::Excerpt("a" + times(59, "前")), "a" + times(59, "前"));
-  EXPECT_EQ(JsonUtil::Excerpt("a" + times(60, "前")), "a" + times(59, "前") + "...");
+  EXPECT_EQ(Excerpt(""), "");
+  EXPECT_EQ(Excerpt(times(60, "a")), times(60, "a"));
+  EXPECT_EQ(Excerpt(times(61, "a")), times(60, "a") + "...");
+  EXPECT_EQ(Excerpt("a" + times(59, "前")), "a" + times(59, "前"));
+  EXPECT_EQ(Excerpt("a" + times(60, "前")), "a" + times(59, "前") + "...");
 }
 
 // The nearest float in the one place where it shows: between the largest float and the first that is none.

@@ -31,6 +31,7 @@ class Use {
     LoadConfig();
     RefuseConfig();
     Decode();
+    DecodeBroken();
     DecodeMarker();
     Encode();
     RefuseToEncode();
@@ -51,14 +52,29 @@ class Use {
     context_->SetBubbleLayerConfig(std::move(file.bubble_layer));
   }
 
-  void RefuseConfig() const {
-    std::string error;
+  static std::string ErrorOf(const char* config) {
     try {
-      ParseBubbleLayerConfig(R"({"bubble_layer":{"turn_style":{"values":[0.5]}}})");
+      ParseBubbleLayerConfig(config);
+      return "";
     } catch (const ConfigError& refusal) {
-      error = refusal.what();
+      return refusal.what();
     }
-    Require(error.find("turn_style value 1") == 0, "the refusal of a real in a word's place");
+  }
+
+  void RefuseConfig() const {
+    Require(ErrorOf(R"({"bubble_layer":{"turn_style":{"values":[0.5]}}})").find("turn_style value 1") == 0,
+            "the refusal of a real in a word's place");
+    Require(ErrorOf(R"({"x":1})").find("the configuration: unknown key") == 0,
+            "the refusal of an unknown key");
+    Require(ErrorOf("{").find("not valid JSON") == 0, "the refusal of half a file");
+  }
+
+  void DecodeBroken() {
+    std::shared_ptr<BubbleDrawDescriptor> out;
+    sink_.messages.clear();
+    transform_.GetBubbleDrawDescriptor("kavrix://resource/{\"a\":.trafficBubble", out);
+    Require(out != nullptr && sink_.messages.size() == 2, "a descriptor and two records of a broken name");
+    Require(sink_.messages[1] == "[Kavrix][ctx]parse json failed: {\"a\":", "the record of its failure");
   }
 
   void Decode() {
