@@ -26,9 +26,9 @@ class ConfigError : public std::runtime_error {
 };
 
 // Reads a configuration from the JSON text
-//   {"context_name": text, "multi_light_type": integer,
-//    "bubble_layer": {record: {"name": text, "values": [value 1, value 2, ...]}, ...},
-//    "marker_bubble": {"name": text, "values": [...]}}
+//   {"context_name": string, "multi_light_type": integer,
+//    "bubble_layer": {record: {"name": string, "values": [value 1, value 2, ...]}, ...},
+//    "marker_bubble": {"name": string, "values": [...]}}
 // with the records by their member names. Everything may be left out, nothing may be added. The text is
 // strict JSON, read alike under every locale. A float value is any number whose nearest float is finite; a
 // word is an integer from 0 to 4294967295 or a text such as "0xffff0000". Throws ConfigError for the first

@@ -44,9 +44,9 @@ class BubbleDrawDescriptor {
 //
 //   BubbleDrawDescriptor{scene:0, content:"km 3", lan:"", ..., style_scale:[1.500000, 1.500000], ...}
 //
-// Texts are escaped as util/log_line.h lists it, quotes too, so that none can end the line or look like another
-// member. Of the stream's state only the notation and the precision of floats count, and all of it is left as
-// it was. What memory runs out for leaves as std::bad_alloc, with nothing written.
+// Texts are escaped as util/log_line.h lists it, quotes too, so that none can end the line or look like
+// another member. Of the stream's state only the notation and the precision of floats count, and all of it is
+// left as it was. What memory runs out for leaves as std::bad_alloc, with nothing written.
 std::ostream& operator<<(std::ostream& stream, const BubbleDrawDescriptor& descriptor);
 
 // Writes all members of the object in the same form.

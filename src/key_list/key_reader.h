@@ -70,9 +70,8 @@ class JsonKeyReader {
     return value == nullptr ? current : JsonUtil::AsInt(*value).value_or(current);
   }
 
-  // One walk over the members and short compares cost half of what looking each key up in the object's map
-  // does.
-  // An object with more members than any bubble kind knows keys is looked up in its map.
+  // Comparing keys along the listed members costs half of looking each key up in the object's map. Only an
+  // object with more members than any kind has keys is looked up in its map.
   const Json::Value* Find(std::string_view key) const {
     if (!member_count_) return JsonUtil::Find(object_, key);
     for (std::size_t i = 0; i < *member_count_; ++i) {

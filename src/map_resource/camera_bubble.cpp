@@ -2,7 +2,7 @@
 //
 //   name = prefix JSON-object ".cameraBubble"
 //   keys : cameras (array of type, speed), scene, is_selected_, is_force_, snap_text, lan, mode, distance,
-//   direction
+//          direction
 //
 // Irregular: each element of "cameras" gives a camera, whatever its JSON type. A broken payload gets no
 // style.

@@ -1,7 +1,7 @@
 // The indoor-entries bubble: the entries of an indoor place.
 //
 //   name = prefix content "_" mode "_" lan "_" entries_value "_" entries_text "@" direction
-//   ".inDoorEntriesBubble"
+//          ".inDoorEntriesBubble"
 //
 // Irregular: entries_value is read as atoi reads it, so a text that is no number stores 0 where every other
 // number would leave its member alone. The closing record repeats the whole name, under a tag without the

@@ -1,9 +1,8 @@
 // The multi-light countdown bubble: the countdowns of several traffic lights.
 //
 //   name = prefix JSON-object "@" direction ".multiLightCountdownBubble"
-//   keys : is_force_, scene, mode, style, id, is_animation, light_descriptors (array of light_type,
-//   turn_arrow_type,
-//          remain_time, text, total_time)
+//   keys : is_force_, scene, mode, style, id, is_animation,
+//          light_descriptors (array of light_type, turn_arrow_type, remain_time, text, total_time)
 //
 // Irregular: `type` comes from the context, before anything is read. A light without "turn_arrow_type" has
 // -1. Each element of the array gives a light, whatever its JSON type. The direction is read after a broken

@@ -9,17 +9,18 @@
 #include "map_resource/resource_name.h"
 #include "util/fields.h"
 
-// What the names of a kind look like is one struct in the kind's file, its format:
+// The format of a kind, a struct in the kind's file, describes its names:
 //
 //   kMarker                   the marker
-//   Carried                   what a name carries: the descriptor, or a struct that adds what it does not
-//   hold List(keys, carried)       the key list: the keys of the JSON object, or the fields ListAll(keys,
-//   carried)    the same, and what the name carries beside them PayloadOf(name)           the payload as Read
-//   takes it Read(payload, carried)    reads a payload ReadName(name, carried)   the same of a whole name;
-//   false where the parser logs a failure
+//   Carried                   what a name carries: the descriptor, or a struct that adds what it does not hold
+//   List(keys, carried)       the key list: the keys of the JSON object, or the fields
+//   ListAll(keys, carried)    the key list, then what else the name carries
+//   PayloadOf(name)           the payload that Read takes
+//   Read(payload, carried)    reads a payload
+//   ReadName(name, carried)   reads the payload of a whole name; false where the parser logs a failure
 //
-// The parser and the encoder's proof of a name run the same Read. The bases below give all but the first
-// three, by the shape of the names; `Self` is the format itself.
+// The parser and the encoder's proof of a name run the same Read. A format derives from the base below that
+// fits its names, which takes the format as `Self` and gives all but kMarker and List.
 namespace kavrix {
 
 // Where a caller of Read has nothing to do.

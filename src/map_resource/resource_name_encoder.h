@@ -9,10 +9,9 @@
 // The placing side: builds the resource name of a bubble from the descriptor that the name shall decode to.
 // Members that names of the kind do not carry (styles, kind codes) are not looked at.
 //
-// The names are canonical: what decodes to equal descriptors has equal bytes. JSON objects have their keys in
-// reading order, no blanks, and leave out what decodes to the same when left out; "mode" is always there.
-// Inside JSON texts
-// '@', '.' and control characters are \u escapes, so every text in UTF-8 comes through.
+// The names are canonical: equal descriptors give equal names. JSON objects have their keys in reading order,
+// no blanks, and leave out what decodes to the same when left out; "mode" is always there. JSON strings write
+// '@', '.' and control characters as \u escapes, which lets them hold any UTF-8.
 //
 // Each function decodes its own name before it returns it, and throws EncodeError for what would not come
 // back: a separator or another kind's marker in a field of a kind without JSON, a "|" in the ETA's second

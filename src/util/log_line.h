@@ -11,8 +11,7 @@ namespace kavrix::logging {
 
 // A record as one line of text, the newline at its end left out:
 //
-//   failure KavrixMapLayerMgr_BubbleTraffic ParseTrafficBubbleResourceName traffic_bubble.cpp:57
-//   [Kavrix][main-map]...
+//   failure KavrixMapLayerMgr GetBubbleDrawDescriptor map_resource_transform.cpp:22 [Kavrix][main-map]...
 //
 // The message holds resource names, which anyone may have written; none can end the line, begin another or
 // move the cursor. What could is escaped, so that a line tells exactly what the record held:
