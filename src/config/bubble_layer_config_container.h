@@ -9,8 +9,8 @@
 
 namespace kavrix {
 
-// The styles of the bubble layer, a plain value. The order is that of the configuration that fills it, so
-// records that no bubble kind reads keep their places.
+// The style records of the bubble layer, in the order of the configuration that fills them. Records that no
+// kind reads keep their places.
 struct BubbleLayerConfigContainer {
   BubbleStyleRecord<4> route_name_style;        // 1: route name, scene 0
   BubbleStyleRecord<12> traffic_style;          // 2: traffic, scene 0
@@ -22,7 +22,7 @@ struct BubbleLayerConfigContainer {
   BubbleStyleRecord<18> camera_scene_style;     // 8: camera, any other scene
   BubbleStyleRecord<14> traffic_nav_style;      // 9: traffic, any other scene, "nav_mode" 1
   BubbleStyleRecord<4> route_name_scene_style;  // 10: route name, any other scene
-  BubbleStyleRecord<2> turn_style;              // 11: turn, the name alone
+  BubbleStyleRecord<2> turn_style;              // 11: turn, only the name
   BubbleStyleRecord<18> unread_style_12;        // 12
   BubbleStyleRecord<2> unread_style_13;         // 13
   BubbleStyleRecord<4> hd_long_solid_style;     // 14: HD long solid
@@ -61,10 +61,10 @@ void ForEachStyleRecord(Config& config, Visit visit) {
   visit("traffic_scene_style", config.traffic_scene_style);
 }
 
-// Which values of a record are floats, those of the marker bubble's record too.
+// The values of one style record that are floats. The marker bubble's record is among the records.
 struct FloatValues {
   std::string_view record;
-  std::array<std::size_t, 7> numbers;  // 0 where there are fewer
+  std::array<std::size_t, 7> numbers;  // filled up with 0
 };
 
 inline constexpr std::array<FloatValues, 13> kFloatValues = {{
@@ -83,8 +83,8 @@ inline constexpr std::array<FloatValues, 13> kFloatValues = {{
     {"marker_bubble", {3}},
 }};
 
-// Whether value `number`, from 1, of the record with this member name is a float. Every other value is a
-// word.
+// Whether value `number`, from 1, of the style record with this member name is a float. Every other value is
+// a word.
 constexpr bool IsFloatValue(std::string_view record, std::size_t number) {
   for (const FloatValues& floats : kFloatValues) {
     for (const std::size_t float_number : floats.numbers) {

@@ -20,7 +20,7 @@ constexpr const char* kWord = "an integer from 0 to 4294967295 or a text such as
   throw ConfigError(where + ": unknown key \"" + Excerpt(key) + "\", expected " + expected);
 }
 
-// The word that a text such as "0xffff0000" stands for.
+// The value of a string such as "0xffff0000".
 std::optional<std::uint32_t> HexWord(std::string_view text) {
   constexpr std::string_view kHead = "0x";
   if (text.substr(0, kHead.size()) != kHead) return std::nullopt;
@@ -31,10 +31,10 @@ std::optional<std::uint32_t> HexWord(std::string_view text) {
   return word;
 }
 
-// Reads the parts of a configuration. `where` is what messages call the part.
+// Reads the parts of a configuration. `where` names the part in messages.
 class ConfigReader {
  public:
-  // `text` is what the values were read from.
+  // `text` is the source of the values.
   explicit ConfigReader(std::string_view text) : text_(text) {}
 
   BubbleLayerConfigFile Read(const Json::Value& root) const {
@@ -93,7 +93,8 @@ class ConfigReader {
     return static_cast<std::uint32_t>(*integer);
   }
 
-  // From the text, because a float made of the nearest double need not be the nearest float.
+  // Reads the digits, not the stored double: the float nearest to that double need not be the float nearest
+  // to the digits.
   float ReadFloat(const std::string& where, const Json::Value& value) const {
     if (!JsonUtil::AsDouble(value)) Fail(where, "a number", value);
     const float number = JsonUtil::NearestFloat(JsonUtil::SourceOf(value, text_));

@@ -10,7 +10,7 @@
 
 namespace kavrix {
 
-// What a configuration file holds. What the file leaves out has an empty name and zeros.
+// The contents of a configuration file. Whatever the file leaves out is empty or 0.
 struct BubbleLayerConfigFile {
   std::string context_name;
   std::int32_t multi_light_type = 0;
@@ -18,8 +18,8 @@ struct BubbleLayerConfigFile {
   MarkerBubbleConfig marker_bubble;  // for MapResourceTransform::SetMarkerBubbleConfig
 };
 
-// Says what of the text could not be used: the record, the value's number, what was expected, what was found.
-// What was found is quoted as it is, control characters included, and cut after 60 characters.
+// The configuration cannot be used. The message says where, what was expected and what was found; the latter is
+// quoted as it is, control characters included, and cut after 60 characters.
 class ConfigError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
@@ -29,10 +29,10 @@ class ConfigError : public std::runtime_error {
 //   {"context_name": string, "multi_light_type": integer,
 //    "bubble_layer": {record: {"name": string, "values": [value 1, value 2, ...]}, ...},
 //    "marker_bubble": {"name": string, "values": [...]}}
-// with the records by their member names. Everything may be left out, nothing may be added. The text is
-// strict JSON, read alike under every locale. A float value is any number whose nearest float is finite; a
-// word is an integer from 0 to 4294967295 or a text such as "0xffff0000". Throws ConfigError for the first
-// thing that does not fit; nothing is loaded then.
+// where each style record has its member name. Every key is optional, and an unknown key is an error. The
+// text is strict JSON, read alike under every locale. A float value is any number whose nearest float is
+// finite; a word is an integer from 0 to 4294967295 or a string such as "0xffff0000". Throws ConfigError for
+// the first error.
 BubbleLayerConfigFile ParseBubbleLayerConfig(const std::string& json_text);
 
 }  // namespace kavrix

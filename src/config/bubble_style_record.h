@@ -11,9 +11,8 @@
 namespace kavrix {
 
 // The style of one bubble kind in one situation, as the bubble layer configures it: a style (image) name and
-// `kValueCount` 32-bit values. Each value is one 4-byte cell, a word or a float as the kind that reads it
-// knows; the other reading of a cell gives the same bits. Values are numbered from 1; a number outside 1 to
-// kValueCount throws std::out_of_range.
+// `kValueCount` 32-bit values. Each value is one 4-byte cell that the kind reads as a word or as a float of
+// the same bits. Values are numbered from 1; a number outside 1 to kValueCount throws std::out_of_range.
 template <std::size_t ValueCount>
 struct BubbleStyleRecord {
   static constexpr std::size_t kValueCount = ValueCount;

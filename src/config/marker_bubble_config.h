@@ -5,7 +5,7 @@
 
 namespace kavrix {
 
-// The style of the marker bubble, which the transform holds itself instead of asking the context.
+// The style record of the marker bubble. The transform holds it; the context does not.
 struct MarkerBubbleConfig : BubbleStyleRecord<4> {};
 
 }  // namespace kavrix

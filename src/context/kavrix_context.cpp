@@ -13,7 +13,7 @@ BubbleLayerConfigContainer KavrixContext::GetBubbleLayerConfigInLock() const {
 
 void KavrixContext::SetBubbleLayerConfig(BubbleLayerConfigContainer config) {
   const std::lock_guard<std::mutex> lock(mutex_);
-  std::swap(config_, config);  // the old one goes with the parameter, after the lock
+  std::swap(config_, config);  // the parameter destroys the old one, after the lock
 }
 
 }  // namespace kavrix

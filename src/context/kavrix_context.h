@@ -10,9 +10,9 @@
 
 namespace kavrix {
 
-// What the transform needs of one map: its name and its bubble-layer configuration. All members may be used
-// from several threads at once, and each transform keeps it alive. A client whose configuration lives
-// elsewhere overrides the accessor.
+// One map, as the transform needs it: its name and its bubble-layer configuration. Several threads may use
+// all members at once, and each transform keeps its context alive. A client that keeps its configuration
+// elsewhere overrides GetBubbleLayerConfigInLock.
 class KavrixContext {
  public:
   explicit KavrixContext(std::string context_name);
@@ -20,13 +20,13 @@ class KavrixContext {
   KavrixContext& operator=(const KavrixContext&) = delete;
   virtual ~KavrixContext() = default;
 
-  // A full copy, taken under the context's lock. One call gives values of one configuration, never of two.
+  // Returns a full copy, taken under the context's lock, so its values never come from two configurations.
   virtual BubbleLayerConfigContainer GetBubbleLayerConfigInLock() const;
 
-  // Replaces the whole configuration; copies taken before stay as they are.
+  // Replaces the whole configuration; earlier copies do not change.
   void SetBubbleLayerConfig(BubbleLayerConfigContainer config);
 
-  const std::string context_name;  // printed in every log record
+  const std::string context_name;  // part of every log record
 
   // Stored in the `type` of every multi-light countdown bubble, low 16 bits. Read without the lock.
   std::atomic<std::int32_t> multi_light_type{0};

@@ -10,8 +10,8 @@
 namespace kavrix {
 namespace {
 
-// As a stream of the classic locale prints a float; of the state of `format` only notation and precision
-// count.
+// Appends a float as a stream of the classic locale prints it. Of `format` only the notation and the
+// precision count.
 void AppendReal(std::string& text, float value, const std::ios_base& format) {
   const std::ios_base::fmtflags notation = format.flags() & std::ios_base::floatfield;
 #ifdef __cpp_lib_to_chars  // gives the same text for a tenth of the time
@@ -30,7 +30,7 @@ void AppendReal(std::string& text, float value, const std::ios_base& format) {
   }
 #endif
   std::ostringstream stream;
-  stream.exceptions(std::ios_base::badbit);  // so that no text is cut short where memory runs out
+  stream.exceptions(std::ios_base::badbit);  // when memory runs out, throws instead of printing less
   stream.imbue(std::locale::classic());
   stream.setf(notation, std::ios_base::floatfield);
   stream.precision(format.precision());
@@ -43,7 +43,7 @@ void AppendInteger(std::string& text, std::int64_t value) {
   text.append(digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr);
 }
 
-// name:value pairs with texts in double quotes, lists in [] and records in {}.
+// Writes name:value pairs, strings in double quotes, lists in [] and objects in {}.
 class TextWriter : public MemberVisitor {
  public:
   TextWriter(const char* type_name, const std::ios_base& format) : format_(format) {
@@ -62,8 +62,7 @@ class TextWriter : public MemberVisitor {
   void BeginObject() override { Open("", '{'); }
   void EndObject() override { Close('}'); }
 
-  // In one piece and unformatted, so that nothing of the stream's state is looked at. The width is used up,
-  // as by any other value.
+  // Writes one unformatted piece, which ignores the stream's state but uses up its width, as other values do.
   std::ostream& WriteTo(std::ostream& stream) {
     text_ += '}';
     stream.width(0);
@@ -71,7 +70,7 @@ class TextWriter : public MemberVisitor {
   }
 
  private:
-  static constexpr std::size_t kUsualSize = 512;  // what a text need not grow to by many small steps
+  static constexpr std::size_t kUsualSize = 512;  // spares most descriptors the growing
 
   std::string& Begin(const char* name) {
     if (!is_first_) text_ += ", ";

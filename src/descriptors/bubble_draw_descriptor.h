@@ -11,8 +11,8 @@
 
 namespace kavrix {
 
-// Everything needed to draw one bubble. Made with std::make_shared and handed around as a shared pointer;
-// what the resource name did not set is zero, false or empty. Kinds with members of their own derive from it.
+// Everything needed to draw one bubble, handed around as a shared pointer. Whatever neither the resource name
+// nor the style set is zero, false or empty. Most kinds derive a class of their own.
 class BubbleDrawDescriptor {
  public:
   virtual ~BubbleDrawDescriptor() = default;
@@ -20,14 +20,14 @@ class BubbleDrawDescriptor {
   // The class name, without the namespace.
   virtual const char* TypeName() const { return "BubbleDrawDescriptor"; }
 
-  // The 13 members of this class, then those that the derived class adds. Text form, JSON form and equality
-  // all run these two.
+  // Visit the 13 members of this class, and those that the derived class adds. Text output, JSON output and
+  // equality all run these two.
   void VisitBaseMembers(MemberVisitor& visitor) const;
   virtual void VisitOwnMembers(MemberVisitor&) const {}
 
   std::int32_t scene = 0;         // zero and non-zero select different style records
-  std::string content;            // main text, or the image key
-  std::string lan;                // language code of the text
+  std::string content;            // main string, or the image key
+  std::string lan;                // language code of the content
   std::uint16_t bubble_kind = 0;  // the bubble layer's kind code
   std::int16_t type = 0;          // sub-type code
   std::int16_t direction = 0;     // side or direction code
@@ -40,13 +40,13 @@ class BubbleDrawDescriptor {
   bool is_force = false;
 };
 
-// Writes the members of the base class alone, whatever the object's own type is, on one line:
+// Writes only the members of the base class, whatever the object's own type is, on one line:
 //
 //   BubbleDrawDescriptor{scene:0, content:"km 3", lan:"", ..., style_scale:[1.500000, 1.500000], ...}
 //
-// Texts are escaped as util/log_line.h lists it, quotes too, so that none can end the line or look like
-// another member. Of the stream's state only the notation and the precision of floats count, and all of it is
-// left as it was. What memory runs out for leaves as std::bad_alloc, with nothing written.
+// Strings are escaped as util/log_line.h lists, and their quotes too: none can end the line or look like
+// another member. Of the stream's state only the notation and the precision of floats count, and none of it
+// changes. Throws std::bad_alloc, with nothing written, when memory runs out.
 std::ostream& operator<<(std::ostream& stream, const BubbleDrawDescriptor& descriptor);
 
 // Writes all members of the object in the same form.
@@ -59,7 +59,7 @@ std::ostream& operator<<(std::ostream& stream, const Descriptor& descriptor) {
   return WriteAllMembers(stream, descriptor);
 }
 
-// Equal when the types are the same and all members of the two objects are equal.
+// True when both have the same type and all members are equal.
 bool operator==(const BubbleDrawDescriptor& a, const BubbleDrawDescriptor& b);
 bool operator!=(const BubbleDrawDescriptor& a, const BubbleDrawDescriptor& b);
 

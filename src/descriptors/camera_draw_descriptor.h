@@ -37,7 +37,7 @@ class CameraDrawDescriptor : public BubbleDrawDescriptor {
   }
 
   std::vector<Camera> cameras;
-  std::int32_t distance = 0;  // distance to the cameras
+  std::int32_t distance = 0;  // to the cameras
   std::string snap_text;
   std::array<std::uint32_t, 3> plain_style_values{};
   std::uint32_t mode_style_value = 0;

@@ -22,11 +22,11 @@ class CompanionBubbleDrawDescriptor : public BubbleDrawDescriptor {
     visitor.Integer("scene", scene);
   }
 
-  std::string time;  // travel time as a text
+  std::string time;  // travel time as text
   std::string label;
-  std::string distance;  // distance as a text
+  std::string distance;  // distance as text
   std::string fee;
-  std::string light;    // traffic lights on the way, as a text
+  std::string light;    // traffic lights on the way, as text
   bool better = false;  // the companion route is the better one
   // cppcheck-suppress duplInheritedMember
   std::int32_t scene = 0;  // the companion's own scene; the base has another

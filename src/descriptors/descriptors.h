@@ -1,7 +1,7 @@
 #ifndef KAVRIX_DESCRIPTORS_DESCRIPTORS_H_
 #define KAVRIX_DESCRIPTORS_DESCRIPTORS_H_
 
-// Every descriptor type.
+// Includes every descriptor type.
 #include "descriptors/bubble_draw_descriptor.h"
 #include "descriptors/camera_draw_descriptor.h"
 #include "descriptors/companion_bubble_draw_descriptor.h"

@@ -8,7 +8,7 @@
 
 namespace kavrix {
 
-// The destination's name with a second text, the ETA, at the end of a route.
+// The destination's name and a second line, such as the time of arrival, at the end of a route.
 class DestNameEtaDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override { return "DestNameEtaDrawDescriptor"; }
@@ -20,7 +20,7 @@ class DestNameEtaDrawDescriptor : public BubbleDrawDescriptor {
     visitor.Word("fourth_mode_style_value", fourth_mode_style_value);
   }
 
-  std::string sub_text;  // the second text
+  std::string sub_text;
   std::uint32_t second_style_value = 0;
   std::uint32_t second_mode_style_value = 0;
   std::uint32_t third_mode_style_value = 0;

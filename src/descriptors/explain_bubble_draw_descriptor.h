@@ -9,7 +9,7 @@
 
 namespace kavrix {
 
-// The explanation of a route: a main text, secondary lines, an icon.
+// The explanation of a route: a main line, secondary lines, an icon.
 class ExplainBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override { return "ExplainBubbleDrawDescriptor"; }
@@ -24,9 +24,9 @@ class ExplainBubbleDrawDescriptor : public BubbleDrawDescriptor {
     visitor.Integer("bubble_type", bubble_type);
   }
 
-  std::string uid;                          // identifier of the explained item
-  std::string explain_content;              // main text; the base's `content` stays empty
-  std::vector<std::string> second_content;  // secondary lines
+  std::string uid;              // identifier of the explained item
+  std::string explain_content;  // main line; the base's `content` stays empty
+  std::vector<std::string> second_content;
   std::int32_t second_type = 0;
   std::int32_t scene_type = 0;
   std::int32_t bubble_type = 0;

@@ -35,7 +35,7 @@ class Flattener : public MemberVisitor {
 
   std::vector<FlatMember>& members_;
   std::string list_;    // the list being visited, if any
-  std::string object_;  // the path of the item being visited, if it is a record
+  std::string object_;  // the path of the object being visited, if any
   std::size_t next_index_ = 0;
 };
 

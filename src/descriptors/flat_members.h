@@ -10,8 +10,8 @@
 
 namespace kavrix {
 
-// One plain value of a descriptor under the path to it, such as "style_scale[1]" or "cameras[0].speed". An
-// unsigned value is a style word.
+// One plain value of a descriptor and the path to it, such as "style_scale[1]" or "cameras[0].speed". A
+// std::uint32_t is a style word.
 struct FlatMember {
   std::string path;
   std::variant<std::int64_t, std::uint32_t, MarkerType, bool, float, std::string> value;
@@ -21,10 +21,10 @@ inline bool operator==(const FlatMember& a, const FlatMember& b) {
   return a.path == b.path && a.value == b.value;
 }
 
-// All members of the object in declaration order, lists and records taken apart.
+// Returns all members of the descriptor in declaration order, lists and their objects taken apart.
 std::vector<FlatMember> FlatMembers(const BubbleDrawDescriptor& descriptor);
 
-// Whether the value is zero, false or empty: what a new descriptor holds.
+// Whether the value is zero, false or empty.
 bool IsDefault(const FlatMember& member);
 
 }  // namespace kavrix

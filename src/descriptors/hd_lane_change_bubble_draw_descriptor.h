@@ -17,12 +17,12 @@ class HDLaneChangeBubbleDrawDescriptor : public BubbleDrawDescriptor {
     visitor.Integer("distance", distance);
   }
 
-  // Reads the members from the JSON object found inside a whole resource name, prefix and marker included.
-  // False, and nothing read, when there is none.
+  // Reads the members from the JSON object inside a whole resource name, prefix and marker included. False,
+  // and nothing read, when there is none.
   bool InitWithJson(const std::string& text);
 
-  std::int32_t target_lane = 0;  // lane to change to, counted from the left from 1; 0 unknown
-  std::int32_t distance = 0;     // distance left for the change in metres
+  std::int32_t target_lane = 0;  // lane to change to, from the left, from 1; 0: unknown
+  std::int32_t distance = 0;     // left for the change, in metres
 };
 
 }  // namespace kavrix

@@ -5,7 +5,7 @@
 
 namespace kavrix {
 
-// The callout of a long solid line in HD guidance; base members alone.
+// The callout of a long solid line in HD guidance. Has only the base members.
 class HDLongSolidBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override { return "HDLongSolidBubbleDrawDescriptor"; }

@@ -5,7 +5,7 @@
 
 namespace kavrix {
 
-// The bubble shown while waiting at a traffic light; base members alone.
+// The bubble shown while waiting at a traffic light. Has only the base members.
 class LightWaitBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override { return "LightWaitBubbleDrawDescriptor"; }

@@ -7,8 +7,8 @@
 
 namespace kavrix {
 
-// The kinds of marker on a navigation map. The values travel in resource names and the names, lower-cased, in
-// image keys: neither ever changes for a kind.
+// The kinds of marker on a navigation map. Resource names carry the values, and image keys the names in lower
+// case: neither ever changes.
 enum class MarkerType : std::int32_t {
   Poi = 0,
   Start = 1,
@@ -27,7 +27,7 @@ enum class MarkerType : std::int32_t {
   Favorite = 14,
 };
 
-// The name of the kind, such as "Poi", or the number of a value that is no kind.
+// Returns the name, such as "Poi", or for any other value its number.
 std::string MarkerTypeName(MarkerType type);
 std::ostream& operator<<(std::ostream& stream, const MarkerType& type);
 

@@ -8,9 +8,9 @@
 
 namespace kavrix {
 
-// Receives the members of a descriptor in declaration order. Inside a list the names are empty; an item is a
-// plain value or a record of named members. A style word (a colour, bits, whatever the drawing side makes of
-// them) and a marker type are integers to a visitor that makes no difference.
+// Receives the members of a descriptor in declaration order. An item of a list is a value with an empty name,
+// or an object with named members. Style words (colours, or bits that only the drawing side understands) and
+// marker types arrive as integers unless the visitor overrides Word and Code.
 class MemberVisitor {
  public:
   virtual ~MemberVisitor() = default;

@@ -13,7 +13,7 @@ namespace kavrix {
 class MultiLightCountdownTimerDrawDescriptor : public BubbleDrawDescriptor {
  public:
   struct OneLightCountdownTimerDrawDescriptor {
-    static constexpr std::int32_t kNoTurnArrow = -1;  // what a light without the key has
+    static constexpr std::int32_t kNoTurnArrow = -1;  // the value of a light without the key
 
     std::int32_t light_type = 0;
     std::int32_t turn_arrow_type = kNoTurnArrow;

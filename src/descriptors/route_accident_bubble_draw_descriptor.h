@@ -17,12 +17,12 @@ class RouteAccidentBubbleDrawDescriptor : public BubbleDrawDescriptor {
     visitor.Integer("severity", severity);
   }
 
-  // Reads the members from the JSON object found inside a whole resource name, prefix and marker included.
-  // False, and nothing read, when there is none.
+  // Reads the members from the JSON object inside a whole resource name, prefix and marker included. False,
+  // and nothing read, when there is none.
   bool InitWithJson(const std::string& text);
 
   std::string accident_id;    // identifier of the traffic event
-  std::int32_t severity = 0;  // 0 unknown; higher is worse
+  std::int32_t severity = 0;  // 0: unknown; higher is worse
 };
 
 }  // namespace kavrix

@@ -17,11 +17,11 @@ class SafeWarningBubbleDrawDescriptor : public BubbleDrawDescriptor {
     visitor.Integer("distance", distance);
   }
 
-  // Reads the members from a JSON object text. False, and nothing read, when there is none.
+  // Reads the members from a JSON object. False, and nothing read, when `text` is not one.
   bool InitWithJson(const std::string& text);
 
-  std::int32_t category = 0;  // category of the warning
-  std::int32_t distance = 0;  // distance to it in metres
+  std::int32_t category = 0;
+  std::int32_t distance = 0;  // to it, in metres
 };
 
 }  // namespace kavrix

@@ -8,7 +8,7 @@
 
 namespace kavrix {
 
-// The label on a route that tells the traffic ahead.
+// The label on a route that shows the traffic ahead.
 class TrafficDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override { return "TrafficDrawDescriptor"; }
@@ -21,7 +21,7 @@ class TrafficDrawDescriptor : public BubbleDrawDescriptor {
     visitor.Word("style_word_2", style_word_2);
   }
 
-  // The "nav_mode" of a name that does not carry one. It selects the style record and is not stored.
+  // The "nav_mode" of a name without that key. It selects the style record and is not stored.
   static constexpr int kDefaultNavMode = 1;
 
   std::string light_text;

@@ -13,7 +13,7 @@ class TurnArrowBubbleDrawDescriptor : public BubbleDrawDescriptor {
   const char* TypeName() const override { return "TurnArrowBubbleDrawDescriptor"; }
   void VisitOwnMembers(MemberVisitor& visitor) const override { visitor.Integer("distance", distance); }
 
-  std::int32_t distance = 0;  // distance to the manoeuvre
+  std::int32_t distance = 0;  // to the manoeuvre
 };
 
 }  // namespace kavrix

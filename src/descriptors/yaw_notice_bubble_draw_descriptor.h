@@ -14,8 +14,8 @@ class YawNoticeBubbleDrawDescriptor : public BubbleDrawDescriptor {
   const char* TypeName() const override { return "YawNoticeBubbleDrawDescriptor"; }
   void VisitOwnMembers(MemberVisitor& visitor) const override { visitor.Integer("reason", reason); }
 
-  // Reads the members from the JSON object found inside a whole resource name, prefix and marker included.
-  // False, and nothing read, when there is none.
+  // Reads the members from the JSON object inside a whole resource name, prefix and marker included. False,
+  // and nothing read, when there is none.
   bool InitWithJson(const std::string& text);
 
   std::int32_t reason = 0;  // why the route was left: a code of the guidance engine

@@ -54,7 +54,7 @@ std::int64_t KeyChecker::CheckedInteger(std::string_view key, std::int64_t curre
   if (value == nullptr) return current;
   const auto number = JsonUtil::AsInteger(*value);
   if (number && *number >= least && *number <= most) return *number;
-  const auto low_bits = JsonUtil::AsInt(*value);  // out of range and yet an int: the member has 16 bits
+  const auto low_bits = JsonUtil::AsInt(*value);  // an int that is out of range: the member has 16 bits
   const std::int64_t decoded = low_bits ? static_cast<std::int16_t>(*low_bits) : current;
   Fail(key, "an integer from " + std::to_string(least) + " to " + std::to_string(most), *value,
        std::to_string(decoded));

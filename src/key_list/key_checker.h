@@ -13,7 +13,7 @@
 
 namespace kavrix {
 
-// A member of an object that the decoder would not read as it stands.
+// A member of an object that the decoder would change or ignore.
 class KeyError : public std::runtime_error {
  public:
   KeyError(std::string key, const std::string& problem) : runtime_error(problem), key_(std::move(key)) {}
@@ -23,13 +23,13 @@ class KeyError : public std::runtime_error {
   std::string key_;
 };
 
-// Reads an object as JsonKeyReader does, but takes nothing that the decoder would change or ignore: throws
-// KeyError for an unknown key, a value of another type, an integer that its member cannot hold, a flag that
-// is not 0 or 1; the text says what the decoder would have made of it. An absent key counts as the decoder
-// counts it.
+// Reads an object as JsonKeyReader does, but refuses what the decoder would change or ignore: throws KeyError
+// for an unknown key, a value of another type, an integer that its member cannot hold, a flag that is not 0
+// or 1. The message says what the decoder would have made of it. Absent keys count as they do for the
+// decoder.
 class KeyChecker {
  public:
-  // `path` stands in front of keys in errors.
+  // `path` precedes the keys in errors.
   explicit KeyChecker(const Json::Value& object, std::string path = "");
 
   void Text(std::string_view key, std::string& text);
@@ -65,7 +65,7 @@ class KeyChecker {
 
   void Texts(std::string_view key, std::vector<std::string>& texts);
 
-  // Fields by index, under their names. A field that is absent leaves its member alone.
+  // Fields, as keys under their names. An absent field leaves its member unchanged.
   void Text(std::size_t, const char* name, std::string& text) { Text(name, text); }
   template <class Int>
   void Integer(std::size_t, const char* name, Int& number) {
@@ -79,7 +79,7 @@ class KeyChecker {
     if (JsonUtil::Find(object_, name) != nullptr) TrueWhenZero(name, flag);
   }
 
-  // Throws KeyError for the first member that no verb asked for.
+  // Throws KeyError for the first member of the object that no verb read.
   void RequireAllRead() const;
 
  private:
@@ -88,7 +88,7 @@ class KeyChecker {
   std::int64_t CheckedInteger(std::string_view key, std::int64_t current, std::int64_t least,
                               std::int64_t most);
   bool CheckedFlag(std::string_view key, int current, bool (*rule)(int value));
-  // `decoded` is what the decoder would make of the value.
+  // `decoded`: the result that the decoder would get.
   [[noreturn]] void Fail(std::string_view key, const std::string& expected, const Json::Value& found,
                          const std::string& decoded) const;
 

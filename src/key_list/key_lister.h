@@ -8,15 +8,15 @@
 
 namespace kavrix {
 
-// One thing that a resource name carries: a key of its JSON object or a named field.
+// A key of a name's JSON object, or a named field.
 struct KeyInfo {
-  std::string key;  // "mode"; "cameras[].type" inside a list
+  std::string key;  // "mode"; "cameras[].type" for a key of a list's objects
   // "text", "integer", "integer, low 16 bits", "flag", "array of texts", "array of objects"
   std::string type;
-  std::string rule;  // "true when 0"; "-1 when absent"; empty where the type says all
+  std::string rule;  // "true when 0"; "-1 when absent"; empty when the type says it all
 };
 
-// Runs a key list for what it names, without reading anything.
+// Runs a key list to collect its keys; reads nothing.
 class KeyLister {
  public:
   const std::vector<KeyInfo>& keys() const { return keys_; }
@@ -59,7 +59,7 @@ class KeyLister {
     Add(key, "array of texts");
   }
 
-  // Fields by index, under the name that the placing side knows them by.
+  // Fields, as keys under the names that the placing side uses.
   template <class Member>
   void Text(std::size_t, const char* name, Member& member) {
     Text(name, member);

@@ -11,12 +11,12 @@
 #include "util/fields.h"
 #include "util/json_value.h"
 
-// A key list is a function template that names what a resource name carries, in reading order, by verbs of
-// its first argument. The readers below are what the decoder hands to it.
+// A key list is a function template that lists what a resource name carries, in reading order, by calling
+// verbs of its first argument. The decoder passes one of the readers below.
 namespace kavrix {
 
 // Reads from a JSON object. A key that is absent or of another type counts as holding the member's current
-// value. A value that is no object has no keys.
+// value. Any other JSON value counts as an empty object.
 class JsonKeyReader {
  public:
   explicit JsonKeyReader(const Json::Value& object)
@@ -28,14 +28,14 @@ class JsonKeyReader {
     if (const auto found = JsonUtil::AsText(*value)) text = *found;
   }
 
-  // Narrowed to the member's width. The member holds its default already: only writers need to be told.
+  // Narrows to the member's width. Only writers use the default: here the member already holds it.
   template <class Int>
   void Integer(std::string_view key, Int& number, [[maybe_unused]] int default_value = 0) {
     number = static_cast<Int>(IntOr(key, number));
   }
 
-  // Three rules for flags. An absent key counts as the flag's own value, 0 or 1: TrueWhenZero then inverts
-  // it.
+  // Three rules for flags. An absent key counts as the flag's current value, 0 or 1, which TrueWhenZero
+  // inverts.
   void TrueWhenZero(std::string_view key, bool& flag) { flag = IntOr(key, flag ? 1 : 0) == 0; }
   void TrueWhenOne(std::string_view key, bool& flag) { flag = IntOr(key, flag ? 1 : 0) == 1; }
   void TrueWhenNonZero(std::string_view key, bool& flag) { flag = IntOr(key, flag ? 1 : 0) != 0; }
@@ -55,7 +55,7 @@ class JsonKeyReader {
     }
   }
 
-  // Appends the elements of an array that are texts; the others are ignored.
+  // Appends the elements of an array that are strings and ignores the others.
   void Texts(std::string_view key, std::vector<std::string>& texts) {
     const Json::Value* const array = FindArray(key);
     if (array == nullptr) return;
@@ -92,7 +92,7 @@ class JsonKeyReader {
   std::optional<std::size_t> member_count_;  // nullopt: more than kMostMembers
 };
 
-// Hands a reader to `list` when the text is a JSON object; false when it is not.
+// Calls `list` with a reader of the JSON object in `text`; false when `text` is not one.
 template <class List>
 bool ReadJsonObject(std::string_view text, List list) {
   Json::Value root;
@@ -102,22 +102,22 @@ bool ReadJsonObject(std::string_view text, List list) {
   return true;
 }
 
-// Reads the fields of a split text by index; the names are those that the placing side knows the fields by. A
-// field that does not convert leaves its member alone.
+// Reads the fields of a split payload by index; the names are for the placing side. A field that does not
+// convert leaves its member unchanged.
 class FieldReader {
  public:
   explicit FieldReader(const std::string_view* fields) : fields_(fields) {}
 
   void Text(std::size_t index, const char*, std::string& text) { text = fields_[index]; }
 
-  // Narrowed to the member's width.
+  // Narrows to the member's width.
   template <class Int>
   void Integer(std::size_t index, const char*, Int& number) {
     int value = 0;
     if (ReadInt(fields_[index], value)) number = static_cast<Int>(value);
   }
 
-  // As atoi reads it, so a field that is no number stores 0. Narrowed to the member's width.
+  // Reads as atoi does: a field that is not a number stores 0. Narrows to the member's width.
   template <class Int>
   void LeadingInteger(std::size_t index, const char*, Int& number) {
     number = static_cast<Int>(LeadingInt(fields_[index]));

@@ -9,7 +9,7 @@
 
 namespace kavrix {
 
-// A place in a text that a name cannot carry as it stands.
+// A place in a string that a name cannot carry.
 struct BadText {
   std::string field;
   std::string text;
@@ -17,17 +17,17 @@ struct BadText {
   std::string problem;  // "is not UTF-8"
 };
 
-// Runs a key list backwards: keeps what the readers of key_reader.h would read, as members of a JSON object
-// and, for lists of fields, as the fields themselves.
+// Runs a key list backwards: keeps the members of the JSON object that the readers of key_reader.h would read
+// and, for lists of fields, the fields too.
 class KeyWriter {
  public:
   enum class Escapes {
-    kPlain,     // what JSON asks for
-    kForNames,  // '@' and '.' too, which would form separators and markers of a resource name
+    kPlain,     // only what JSON requires
+    kForNames,  // '@' and '.' too, which could form separators and markers of a name
   };
 
   struct Field {
-    const char* name = nullptr;  // null for a field that nobody reads
+    const char* name = nullptr;  // null: no reader reads the field
     std::string text;
   };
 
@@ -35,13 +35,13 @@ class KeyWriter {
 
   void Text(std::string_view key, const std::string& text) { Add(key, Quoted(key, text), text.empty()); }
 
-  // `default_value` is what the member holds when a name does not carry it.
+  // `default_value`: the value of the member when the name has no such key.
   template <class Int>
   void Integer(std::string_view key, const Int& number, int default_value = 0) {
     Add(key, std::to_string(number), number == default_value);
   }
 
-  // Never left out: an absent key would count inverted.
+  // Never left out: readers invert an absent flag.
   void TrueWhenZero(std::string_view key, const bool& flag) { Add(key, flag ? "0" : "1", false); }
   void TrueWhenOne(std::string_view key, const bool& flag) { Integer(key, flag ? 1 : 0); }
   void TrueWhenNonZero(std::string_view key, const bool& flag) { Integer(key, flag ? 1 : 0); }
@@ -60,7 +60,7 @@ class KeyWriter {
 
   void Texts(std::string_view key, const std::vector<std::string>& texts);
 
-  // Fields by index, under the names that the placing side knows them by.
+  // Fields, also kept as keys under the names that the placing side uses.
   void Text(std::size_t index, const char* name, const std::string& text) {
     SetField(index, name, text);
     Text(name, text);
@@ -79,13 +79,13 @@ class KeyWriter {
     TrueWhenZero(name, flag);
   }
 
-  // The members as a JSON object in the order of the list, less those that hold their defaults and less the
-  // key `left_out`.
+  // Returns the JSON object: the members in the order of the list, without those that hold their defaults and
+  // without the key `left_out`.
   std::string Object(std::string_view left_out = "") const;
 
   const std::vector<Field>& fields() const { return fields_; }
 
-  // The first piece of a text that is not UTF-8; its bytes were written as they are.
+  // The first piece of a string that is not UTF-8. Its bytes are written unchanged.
   const std::optional<BadText>& bad() const { return bad_; }
 
   friend bool operator==(const KeyWriter& a, const KeyWriter& b) { return a.members_ == b.members_; }

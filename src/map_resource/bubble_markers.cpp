@@ -7,13 +7,13 @@
 namespace kavrix {
 namespace {
 
-// Every marker is a dot and a word that ends so. The search looks for this tail, from the first 'B' of a name
-// on: in most names that is the marker's own. Occurrences of the tail cannot overlap, and each covers exactly
-// one of every six places in a row: one letter in six is looked at, whatever the name holds.
+// Every marker ends with this tail, which the search looks for, beginning at the first 'B' of the name: in
+// most names that of the marker. The tail has six letters and cannot overlap itself. Each occurrence covers
+// one place in six, so a look at every sixth place finds them all.
 constexpr std::string_view kTail = "Bubble";
 
-// Where a letter stands in the tail, counted from 0; kElsewhere for letters that it does not have. The first
-// of its two 'b's in a row counts as the second one.
+// The place of each letter in the tail, from 0; kElsewhere for letters that are not in it. Both 'b's have the
+// place of the second.
 constexpr std::uint8_t kElsewhere = kTail.size();
 constexpr std::uint8_t kSecondB = 3;
 
@@ -26,8 +26,8 @@ constexpr std::array<std::uint8_t, 256> MakePlacesInTail() {
 constexpr std::array<std::uint8_t, 256> kPlaceInTail = MakePlacesInTail();
 static_assert(kPlaceInTail['b'] == kSecondB && kTail[kSecondB - 1] == 'b');
 
-// Chains of the markers that have the same letter before their tail, in order: by letter the first one, by
-// marker the next one. kNone ends a chain.
+// Chains the markers that have the same letter before the tail, in order: `first` by letter, `next` by
+// marker. kNone ends a chain.
 constexpr std::uint8_t kNone = kBubbleMarkers.size();
 
 struct LetterChains {
@@ -41,7 +41,7 @@ constexpr LetterChains MakeLetterChains() {
   for (std::uint8_t i = kNone; i-- > 0;) {
     const std::string_view marker = kBubbleMarkers[i];
     const std::size_t tail_begin = marker.size() - kTail.size();
-    // Thrown while compiling, that is an error of the build.
+    // Evaluated at compile time: the build fails here.
     if (marker.substr(tail_begin) != kTail) throw std::logic_error("a marker without the tail");
     std::uint8_t& first = chains.first[static_cast<unsigned char>(marker[tail_begin - 1])];
     chains.next[i] = first;
@@ -51,7 +51,8 @@ constexpr LetterChains MakeLetterChains() {
 }
 constexpr LetterChains kChains = MakeLetterChains();
 
-// `text` ends with the tail. The first two letters alone rule most markers out.
+// Whether `text`, which ends with the tail, ends with `marker`. The first two characters rule out most
+// markers.
 bool EndsWithMarker(std::string_view text, std::string_view marker) {
   if (text.size() < marker.size()) return false;
   const char* const begin = text.data() + (text.size() - marker.size());
@@ -59,7 +60,7 @@ bool EndsWithMarker(std::string_view text, std::string_view marker) {
          std::memcmp(begin, marker.data(), marker.size() - kTail.size()) == 0;
 }
 
-// The marker that `text`, which ends with the tail, ends with, if it comes before `limit` in the order; else
+// Returns the number of the marker at the end of `text`, which ends with the tail, if below `limit`; else
 // `limit`.
 std::size_t MarkerAtEnd(std::string_view text, std::size_t limit) {
   if (text.size() == kTail.size()) return limit;
@@ -70,7 +71,7 @@ std::size_t MarkerAtEnd(std::string_view text, std::size_t limit) {
   return limit;
 }
 
-// The end of the tail that covers `place`; npos when none does.
+// Returns the end of the tail that covers `place`; npos when none does.
 std::size_t EndOfTailAt(std::string_view name, std::size_t place) {
   std::size_t place_in_tail = kPlaceInTail[static_cast<unsigned char>(name[place])];
   if (place_in_tail == kElsewhere) return std::string_view::npos;

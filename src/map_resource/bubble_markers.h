@@ -8,7 +8,7 @@
 
 namespace kavrix {
 
-// One value for each line of the list.
+// One value for each line of the list of kinds.
 enum class BubbleKind {
 #define KAVRIX_BUBBLE_KIND(Kind, stem, marker, Descriptor, Parse, Encode) k##Kind,
 #include "map_resource/bubble_kinds.def"
@@ -28,10 +28,11 @@ constexpr std::string_view MarkerOf(BubbleKind kind) {
   return kBubbleMarkers[static_cast<std::size_t>(kind)];
 }
 
-// What follows the payload of a marker name, which has its own entry point.
+// The end of marker names, which have their own entry point.
 inline constexpr std::string_view kMarkerNameTail = ".marker";
 
-// The kind whose marker occurs in the name, the first in order when several do. One pass over the name.
+// Returns the kind whose marker occurs in the name, the first in order when several do. Takes one pass over
+// the name.
 std::optional<BubbleKind> FindBubbleKind(std::string_view resource_name);
 
 }  // namespace kavrix

@@ -3,10 +3,10 @@
 //   name = prefix JSON-object "@" direction ".companionBubble"
 //   keys : is_force_, time, distance, fee, light, label, mode, better, scene, scene_
 //
-// Irregular: "scene" fills the companion's own scene, "scene_" the base's. "is_force_" counts when not 0,
-// where other kinds want 1. A broken JSON text is logged under the traffic tag with the whole name, and the
-// direction behind it is then left alone; the style and the closing record come in any case. The two scales
-// are two values.
+// Irregular: "scene" fills the companion's own scene, "scene_" the base's. "is_force_" is true when not 0;
+// other kinds require 1. A broken JSON object is logged under the traffic tag with the whole name, and the
+// direction after it is then not read. The style is filled and the closing log record written in any case.
+// Each of the two scales has a value of its own.
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"

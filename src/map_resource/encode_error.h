@@ -8,15 +8,15 @@
 
 namespace kavrix {
 
-// A character of a text field that a name cannot carry there.
+// A character that a name cannot carry in one of its strings.
 struct BadCharacter {
-  std::string bytes;        // of the character; of a piece that is not UTF-8, its bytes
-  std::size_t byte_offset;  // in the field's text, from 0
+  std::string bytes;        // of the character, or of the piece that is not UTF-8
+  std::size_t byte_offset;  // in the string, from 0
   std::size_t column;       // in code points, from 1; a piece that is not UTF-8 counts as one
 };
 
-// A value that no name of the kind can carry. The message names the kind, the field, the character and its
-// place where there is one, and says what the reader would have decoded instead.
+// A value that no name of the kind can carry. The message names the kind, the field and, if one character is
+// to blame, that character and its place. Most say what the reader would have decoded instead.
 class EncodeError : public std::runtime_error {
  public:
   EncodeError(const std::string& kind, const std::string& field, const std::string& problem,

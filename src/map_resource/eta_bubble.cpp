@@ -1,10 +1,10 @@
-// The ETA bubble: the destination's name with a second text, such as the time of arrival.
+// The ETA bubble: the destination's name and a second line, such as the time of arrival.
 //
 //   name = prefix content ["|" sub_text] "_" mode "_" unread "_" scene "@" direction ".etaBubble"
 //
-// Irregular: the name is logged before anything else. The content is split at its last "|", also when nothing
-// was read. The two scales are two values, the word is chosen by mode. Head and tail are read independently;
-// nothing is ever a failure.
+// Irregular: the name is logged before it is read. The content is split at its last "|". Each of the two
+// scales has a value of its own, and the mode chooses the word. Head and tail are read independently, and no
+// name is logged as a failure.
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
@@ -25,8 +25,7 @@ void SplitSubText(DestNameEtaDrawDescriptor& eta) {
   eta.content.erase(bar);
 }
 
-// The other way round. A "|" of the content's own is kept by one more behind it, even before an empty second
-// text.
+// Undoes SplitSubText. Content that holds a "|" gets another one after it, even when `sub_text` is empty.
 std::string WithSubText(const DestNameEtaDrawDescriptor& eta) {
   const bool needs_bar = !eta.sub_text.empty() || eta.content.find('|') != std::string::npos;
   return needs_bar ? eta.content + "|" + eta.sub_text : eta.content;

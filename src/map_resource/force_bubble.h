@@ -6,7 +6,7 @@
 
 namespace kavrix {
 
-// What names of the force dot and the force poll carry.
+// The format that the force dot and the force poll share.
 template <class Self>
 struct ForceBubbleFormat : JsonFormat<Self, BubbleDrawDescriptor> {
   template <class Keys, class Descriptor>

@@ -4,7 +4,7 @@
 //   keys : mode, type
 //
 // Irregular: the payload of every good name is logged, at the level of failures. Content and force flag are
-// set only once the payload has parsed.
+// set only when the payload parses.
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/force_bubble.h"

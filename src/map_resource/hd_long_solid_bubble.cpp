@@ -2,9 +2,9 @@
 //
 //   name = prefix content "_" mode { "_" force } "@" direction ".hdLongSolidBubble"
 //
-// Irregular: two fields are enough, and a third sets the force flag whatever it holds; more are ignored.
-// The style is taken before the payload is looked at. Head and tail are read independently; nothing is ever a
-// failure.
+// Irregular: two fields are enough; a third sets the force flag, whatever it holds, and more are ignored. The
+// style is filled before the payload is read. Head and tail are read independently, and no name is logged as
+// a failure.
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"

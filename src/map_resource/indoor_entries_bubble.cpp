@@ -3,9 +3,9 @@
 //   name = prefix content "_" mode "_" lan "_" entries_value "_" entries_text "@" direction
 //          ".inDoorEntriesBubble"
 //
-// Irregular: entries_value is read as atoi reads it, so a text that is no number stores 0 where every other
-// number would leave its member alone. The closing record repeats the whole name, under a tag without the
-// module word. Head and tail are read independently; nothing is ever a failure.
+// Irregular: entries_value is read as atoi does: a field that is not a number stores 0, where other fields
+// leave the member unchanged. The closing log record repeats the whole name, under a tag without the module
+// word. Head and tail are read independently, and no name is logged as a failure.
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"

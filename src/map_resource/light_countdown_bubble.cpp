@@ -3,8 +3,8 @@
 //   name = prefix JSON-object "@" direction ".lightCountdownBubble"
 //   keys : is_force_, scene, mode, id, style, light_type, turn_arrow_type, time, text
 //
-// The direction is read after a broken JSON text too, and after its failure record. The closing record comes
-// in any case.
+// The direction is read even when the JSON object is broken, after that failure is logged. The closing log
+// record is written in any case.
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"

@@ -2,8 +2,8 @@
 //
 //   name = prefix content "_" mode "_" scene "_" force "@" direction ".lightWaitBubble"
 //
-// Irregular: force is set by the one-character text "1" and cleared by any other. The tag lacks the module
-// word. Head and tail are read independently; nothing is ever a failure.
+// Irregular: force is true when the field is exactly "1", and false otherwise. The tag lacks the module word.
+// Head and tail are read independently, and no name is logged as a failure.
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"

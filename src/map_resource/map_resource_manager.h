@@ -4,9 +4,9 @@
 namespace kavrix {
 
 struct MapResourceManager {
-  // The text that every resource name begins with. Null-terminated, owned by the client; a client that uses
-  // another prefix sets it once, before the first name is built or decoded. Only its length matters to the
-  // decoder: that many bytes are dropped, whatever they are.
+  // The prefix of every resource name. Null-terminated, owned by the client; a client that uses another
+  // prefix sets it once, before it encodes or decodes the first name. Parsers drop as many bytes as it has,
+  // whatever they are; only the kinds that read the whole name compare them.
   static const char* kavrix_resource_prefix;
 };
 

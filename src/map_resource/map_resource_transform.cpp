@@ -23,7 +23,7 @@ void MapResourceTransform::GetBubbleDrawDescriptor(const std::string& resource_n
                "resource_name:" << resource_name << ", it is a not valid bubble.");
     return;
   }
-  switch (*kind) {  // GCOVR_EXCL_BR_LINE: of no other value there is one
+  switch (*kind) {  // GCOVR_EXCL_BR_LINE: there is no other value
 #define KAVRIX_BUBBLE_KIND(Kind, stem, marker, Descriptor, Parse, Encode) \
   case BubbleKind::k##Kind:                                               \
     return Parse(resource_name, out);

@@ -14,34 +14,34 @@
 namespace kavrix {
 
 // Turns the resource name of a map bubble into everything needed to draw it. One object serves any number of
-// threads; nothing is kept between calls.
+// threads and keeps nothing between calls.
 //
-// Calls work before main and after it, in the constructors and destructors of static objects. The object is
-// destroyed when no call of it runs, so not by a sink or a context that the call itself uses. The child of a
-// fork() calls nothing of this library before exec if the parent had other threads that use it: a lock that
-// one of them held is held for ever there. A parent of one thread and its child may both go on.
+// Calls also work in the constructors and destructors of static objects. Destroy the object only while no
+// call runs on it; a sink or a context that a call uses must not destroy it. After a fork() the child must
+// not call this library before exec if other threads of the parent use it: a lock that one of them held stays
+// locked in the child. After a fork() of a process with one thread, parent and child may both go on.
 class MapResourceTransform {
  public:
-  // `context` must not be null. The transform shares it, so the client may let go of it at any time.
+  // `context` must not be null. The transform shares its ownership.
   explicit MapResourceTransform(std::shared_ptr<KavrixContext> context);
 
-  // Sets the style of marker bubbles, which is not the context's; without it they have an empty name and
-  // zeros. To be called before the first decode: it does not wait for other threads.
+  // Sets the style record of marker bubbles, which the context does not have; until then its name is empty
+  // and its values are 0. Call it before the first decode: it takes no lock.
   void SetMarkerBubbleConfig(MarkerBubbleConfig config) { marker_bubble_config_ = std::move(config); }
 
   // Recognises the kind by its marker and decodes the name into a new descriptor in `out`. A name of a known
-  // kind always leaves a descriptor to draw, however broken its payload is (a safe-warning name whose payload
-  // is not two pieces joined by "@" alone leaves `out` alone); a name without a marker leaves `out`
-  // untouched. Failures are log records of level 1. Throws std::out_of_range for a name shorter than the
-  // prefix, and what the standard library throws when memory runs out.
+  // kind always gives a descriptor to draw, however broken its payload is. Only a name without a marker, and
+  // a safe-warning name whose payload is not two parts joined by "@", leave `out` unchanged. Failures are log
+  // records of level 1. Throws std::out_of_range for a name shorter than the prefix (kinds that read the
+  // whole name do not), and what the standard library throws when memory runs out.
   void GetBubbleDrawDescriptor(const std::string& resource_name, std::shared_ptr<BubbleDrawDescriptor>& out);
 
-  // Decodes the name of a map marker: prefix, JSON object, ".marker". `out` is a new MarkerDrawDescriptor, or
-  // untouched when the payload is not a JSON object. Throws as above.
+  // Decodes the name of a map marker: prefix, JSON object, ".marker". `out` becomes a new
+  // MarkerDrawDescriptor, or stays unchanged when the payload is not a JSON object. Throws as above.
   void GetMarkerDrawDescriptor(const std::string& resource_name, std::shared_ptr<BubbleDrawDescriptor>& out);
 
-  // The parser of each kind, called by GetBubbleDrawDescriptor with its own arguments. The grammar of the
-  // payload stands at the head of the kind's source file.
+  // The parsers of the kinds, which GetBubbleDrawDescriptor calls with its own arguments. The head of each
+  // kind's source file has the grammar of its names.
   void ParseTrafficBubbleResourceName(const std::string& resource_name,
                                       std::shared_ptr<BubbleDrawDescriptor>& out);
   void ParseRouteNameBubbleResourceName(const std::string& resource_name,

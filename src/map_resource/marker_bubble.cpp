@@ -1,11 +1,11 @@
-// The marker bubble: a text bubble at a map marker. Not to be mixed up with marker names, which have their
-// own entry point (marker_name.cpp).
+// The marker bubble: a text bubble at a map marker. Marker names are another thing, with their own entry
+// point (marker_name.cpp).
 //
 //   name = prefix JSON-object ".markerBubble"
 //   keys : scene, mode, direction, content
 //
-// Irregular: the style is the transform's own, not the context's; a failure is logged under the traffic tag,
-// success not at all.
+// Irregular: the style comes from the transform, not from the context. A failure is logged under the traffic
+// tag; success is not logged.
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"

@@ -1,11 +1,11 @@
-// Marker names: map markers, which have an entry point of their own beside the bubbles.
+// Marker names: map markers, which are no bubbles and have their own entry point.
 //
 //   name = prefix JSON-object ".marker"
 //   keys : lan, mode, scene, direction, marker_type, name, resource_id, is_main_map
 //
-// Irregular: a payload that is no JSON object leaves `out` alone and is logged with the whole name under the
-// traffic tag; success is not logged. "is_main_map" counts when not 0. The content is the image key: prefix,
-// the marker type's name in lower case, "_" and the marker's name in its own case.
+// Irregular: a payload that is not a JSON object leaves `out` unchanged and is logged, with the whole name,
+// under the traffic tag; success is not logged. "is_main_map" is true when not 0. The content is the image
+// key: the prefix, the marker type's name in lower case, "_" and the marker's name in its own case.
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_manager.h"
@@ -38,7 +38,7 @@ struct MarkerFormat : JsonFormat<MarkerFormat, MarkerDrawDescriptor> {
   }
 };
 
-// What a marker has that its name does not carry.
+// Fills the members that the name does not carry.
 void Complete(MarkerDrawDescriptor& marker) {
   marker.bubble_kind = kKindCode;
   marker.is_force = true;

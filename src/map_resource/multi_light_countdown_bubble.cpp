@@ -4,9 +4,9 @@
 //   keys : is_force_, scene, mode, style, id, is_animation,
 //          light_descriptors (array of light_type, turn_arrow_type, remain_time, text, total_time)
 //
-// Irregular: `type` comes from the context, before anything is read. A light without "turn_arrow_type" has
-// -1. Each element of the array gives a light, whatever its JSON type. The direction is read after a broken
-// JSON text too, and after its failure record. The tag is that of the single light.
+// Irregular: `type` is set from the context, before the payload is read. A light without "turn_arrow_type"
+// has -1. Each element of the array gives a light, whatever its JSON type. The direction is read even when
+// the JSON object is broken, after that failure is logged. The tag is that of the light countdown bubble.
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"

@@ -11,13 +11,13 @@ namespace {
 
 std::string KindName(std::string_view marker) { return std::string(marker.substr(1)); }
 
-// Whether the name, which holds the marker, reaches the marker's parser. Marker names are not recognised but
-// asked for.
+// Whether the name, which holds the marker, reaches the parser of that marker. Marker names always do: their
+// entry point does not look for markers.
 bool GoesTo(std::string_view name, std::string_view marker) {
   return marker == kMarkerNameTail || FindBubbleKind(name) == FindBubbleKind(marker);
 }
 
-// What a reader makes of the name, which holds the marker, for messages.
+// Describes for messages what the reader makes of the name, which holds the marker.
 std::string Decoded(const std::string& name, std::string_view marker) {
   const BubbleKindInfo& info =
       marker == kMarkerNameTail ? kMarkerNameInfo : InfoOf(FindBubbleKind(name).value());

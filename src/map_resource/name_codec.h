@@ -12,32 +12,32 @@
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/name_format.h"
 
-// Runs a format backwards, for all kinds. A kind that writes its payload in a way of its own has an overload
-// of PayloadFor for its format, one with values that change nothing in the descriptor an overload of
-// Canonical.
+// Encodes the names of all kinds by running their formats backwards. A kind overloads PayloadFor for its
+// format if it writes the payload in its own way, and Canonical if some values make no difference to the
+// descriptor.
 namespace kavrix {
 
 struct Payload {
   std::string text;
-  std::optional<BadText> bad;  // the first one; `text` holds it nevertheless
+  std::optional<BadText> bad;  // the first bad place, which `text` holds all the same
 };
 
-// The first place in a field's text that the reader would take for something else.
+// Returns the first place in a field that the reader would take for something else.
 std::optional<BadText> FindBadText(const std::string& field, const std::string& text,
                                    std::string_view marker);
 
-// A payload of `count` fields joined by "_".
+// Joins `count` fields by "_".
 Payload FieldsPayload(const KeyWriter& written, std::size_t count, std::string_view marker);
 
 // Appends "@" and the direction.
 Payload WithDirection(Payload payload, std::int16_t direction);
 
-// prefix + payload + marker. Throws EncodeError when the payload has a bad text or the name would go to
+// Returns prefix + payload + marker. Throws EncodeError when the payload is bad or the name would go to
 // another kind.
 std::string JoinName(const Payload& payload, std::string_view marker);
 
-// Throws EncodeError because `name` would not come back as what it was made of: the kind's reader and writer
-// have drifted apart.
+// Throws EncodeError because `name` does not decode to what was encoded: the kind's reader and writer
+// disagree.
 [[noreturn]] void FailOfLoss(std::string_view marker, const std::string& name);
 
 [[noreturn]] void FailOfKey(std::string_view marker, const KeyError& error);
@@ -61,7 +61,7 @@ Payload PayloadFor(const FieldsFormat<Self, Carried, FieldCount>&, const KeyWrit
   return WithDirection(FieldsPayload(written, FieldCount, Self::kMarker), carried.direction);
 }
 
-// What decodes to the same descriptor is written in one way.
+// Replaces values that decode to the same descriptor by one of them. The default changes nothing.
 template <class Format>
 const typename Format::Carried& Canonical(const Format&, const typename Format::Carried& carried) {
   return carried;
@@ -74,7 +74,7 @@ KeyWriter Written(const typename Format::Carried& carried, KeyWriter::Escapes es
   return keys;
 }
 
-// A JSON object as --fields shows it. Throws EncodeError for a text that is not UTF-8.
+// Returns the JSON object that --fields shows. Throws EncodeError for a string that is not UTF-8.
 template <class Format>
 std::string FieldsOf(const typename Format::Carried& carried) {
   const KeyWriter written = Written<Format>(carried, KeyWriter::Escapes::kPlain);

@@ -12,7 +12,7 @@
 // The format of a kind, a struct in the kind's file, describes its names:
 //
 //   kMarker                   the marker
-//   Carried                   what a name carries: the descriptor, or a struct that adds what it does not hold
+//   Carried                   what a name carries: the descriptor, or a struct that adds what it lacks
 //   List(keys, carried)       the key list: the keys of the JSON object, or the fields
 //   ListAll(keys, carried)    the key list, then what else the name carries
 //   PayloadOf(name)           the payload that Read takes
@@ -23,7 +23,7 @@
 // fits its names, which takes the format as `Self` and gives all but kMarker and List.
 namespace kavrix {
 
-// Where a caller of Read has nothing to do.
+// For callers of Read that have nothing to do there.
 struct NoAction {
   template <class... Arguments>
   void operator()(const Arguments&...) const {}
@@ -40,7 +40,7 @@ struct JsonFormat {
   static std::string_view PayloadOf(const std::string& name) {
     return StripPrefixAndMarker(name, Self::kMarker);
   }
-  // False when the payload is no JSON object. `when_parsed` is called before the first key is read.
+  // False when the payload is not a JSON object. Calls `when_parsed` before it reads the first key.
   template <class Action = NoAction>
   static bool Read(std::string_view payload, Carried& carried, Action when_parsed = {}) {
     return ReadJsonObject(payload, [&](auto& keys) {
@@ -53,7 +53,7 @@ struct JsonFormat {
   }
 };
 
-// The same, where the reader finds the object in the whole name and logs nothing when there is none.
+// The same, but Read finds the object in the whole name, and a name without one is not a failure.
 template <class Self, class CarriedType>
 struct WholeNameFormat : JsonFormat<Self, CarriedType> {
   static std::string_view PayloadOf(const std::string& name) { return FindJsonObject(name); }
@@ -73,8 +73,8 @@ struct JsonAndDirectionFormat {
     keys.Integer("direction", carried.direction);
   }
   static std::string_view PayloadOf(const std::string& name) { return StripPrefix(name); }
-  // False when the text before "@" is no JSON object: `on_broken_json` gets it, and the direction is read
-  // after that all the same. A payload that is not two parts gives nothing and is no failure.
+  // False when the part before "@" is not a JSON object: passes it to `on_broken_json`, and reads the
+  // direction after that all the same. A payload that is not two parts sets nothing and is not a failure.
   template <class Action = NoAction>
   static bool Read(std::string_view payload, Carried& carried, Action on_broken_json = {}) {
     const auto parts = SplitFields<2>(payload, '@');

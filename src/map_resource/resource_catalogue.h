@@ -10,10 +10,9 @@
 // overview map; 0x1 route points, walking, indoor and traffic lights; 0x2 point traffic events; 0x3 road
 // warning signs.
 //
-// The maps have internal linkage: every source file that includes this header has its own, built before its
-// code runs and never changed. They are destroyed with that file's static objects: a static constructor or
-// destructor of the same file may use them, one that reaches this file from another may come too early or
-// late.
+// The maps have internal linkage: every source file that includes this header has its own. They are never
+// changed, and are built and destroyed with that file's static objects. Static constructors and destructors
+// of the same file may use them; those of another file that call into this one may run too early or too late.
 namespace kavrix::R {
 
 struct Icon {
@@ -149,14 +148,14 @@ inline std::map<std::uint32_t, std::string> MakeResourceID2DescriptionMap() {
 // The night id of every day id.
 static const std::map<std::uint32_t, std::uint32_t> DayNightResourceMap = MakeDayNightResourceMap();
 
-// The description of every id, day and night, in UTF-8. A few icons share theirs.
+// The description of every id, day and night, in UTF-8. A few icons share a description.
 static const std::map<std::uint32_t, std::string> ResourceID2DescriptionMap = MakeResourceID2DescriptionMap();
 
 }  // namespace kavrix::R
 
 namespace kavrix::Layer::Style {
 
-// The default font of bubble texts: none in particular.
+// The default font of bubbles: empty, which names none.
 static const std::string FONT_NAME;
 
 }  // namespace kavrix::Layer::Style

@@ -10,18 +10,18 @@
 
 namespace kavrix {
 
-// A resource name is prefix + payload + marker. Neither end is ever compared: as many bytes are dropped as
-// the prefix and the marker have. A name shorter than the prefix throws std::out_of_range.
+// A resource name is prefix + payload + marker. The first two functions drop as many bytes as the prefix and
+// the marker have, whatever they are, and throw std::out_of_range for a name shorter than the prefix.
 
-// Everything after the prefix, marker included.
+// Returns everything after the prefix, marker included.
 std::string_view StripPrefix(const std::string& resource_name);
 
-// What stands between prefix and marker. In a name too short to hold both the count wraps around and
-// everything after the prefix is left.
+// Returns the bytes between prefix and marker. In a name too short to hold both the count wraps around, and
+// everything after the prefix is returned.
 std::string_view StripPrefixAndMarker(const std::string& resource_name, std::string_view marker);
 
-// Makes the descriptor of a kind and shows it to the caller at once: whatever fails later, it is there to
-// draw.
+// Makes the descriptor of a kind and stores it in `out` at once: whatever fails later, the caller can draw
+// it.
 template <class Descriptor>
 std::shared_ptr<Descriptor> Publish(std::shared_ptr<BubbleDrawDescriptor>& out) {
   auto descriptor = std::make_shared<Descriptor>();
@@ -29,7 +29,8 @@ std::shared_ptr<Descriptor> Publish(std::shared_ptr<BubbleDrawDescriptor>& out) 
   return descriptor;
 }
 
-// Makes the descriptor of a kind that decodes the whole name itself, and publishes it whatever it made of it.
+// Makes the descriptor of a kind that decodes the whole name itself. Stores it in `out` whether or not the
+// name holds a readable object.
 template <class Descriptor>
 void PublishInitialised(const std::string& resource_name, std::shared_ptr<BubbleDrawDescriptor>& out) {
   auto descriptor = std::make_shared<Descriptor>();
@@ -37,19 +38,19 @@ void PublishInitialised(const std::string& resource_name, std::shared_ptr<Bubble
   out = std::move(descriptor);
 }
 
-// Reads the direction from a decimal integer, low 16 bits; any other text leaves it alone.
+// Reads the direction from a decimal integer, low 16 bits; anything else leaves it unchanged.
 void ReadDirection(std::string_view text, BubbleDrawDescriptor& descriptor);
 
-// The same from the text after "@": the integer, a dot and the marker word, which is not compared. A tail of
-// another shape leaves the direction alone.
+// Reads the direction from what follows "@": the integer, a dot and the marker's word, which is not compared.
+// A tail of another shape leaves the direction unchanged.
 void ReadDirectionTail(std::string_view tail, BubbleDrawDescriptor& descriptor);
 
-// The text from the first brace after the prefix to the last one: the JSON object of a whole resource name.
-// Empty when there is none.
+// Returns the JSON object of a whole resource name: from the first "{" after the prefix, if the name has the
+// prefix, to the last "}". Empty when there is none.
 std::string_view FindJsonObject(std::string_view resource_name);
 
-// The reading of a style record that most kinds share: value 2 is the word, value 3 both scales. Takes the
-// name.
+// Fills the style as most kinds do: the word from value 2, both scales from value 3. Moves the name out of
+// the record.
 template <class Record>
 void ApplyCommonStyle(Record&& record, BubbleDrawDescriptor& descriptor) {
   descriptor.style_name = std::forward<Record>(record).name;

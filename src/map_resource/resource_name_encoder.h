@@ -6,16 +6,16 @@
 #include "descriptors/descriptors.h"
 #include "map_resource/encode_error.h"
 
-// The placing side: builds the resource name of a bubble from the descriptor that the name shall decode to.
-// Members that names of the kind do not carry (styles, kind codes) are not looked at.
+// For the placing side: builds the resource name of a bubble from the descriptor that the name is to decode
+// to. Members that names of the kind do not carry (styles, kind codes) are ignored.
 //
 // The names are canonical: equal descriptors give equal names. JSON objects have their keys in reading order,
 // no blanks, and leave out what decodes to the same when left out; "mode" is always there. JSON strings write
 // '@', '.' and control characters as \u escapes, which lets them hold any UTF-8.
 //
-// Each function decodes its own name before it returns it, and throws EncodeError for what would not come
-// back: a separator or another kind's marker in a field of a kind without JSON, a "|" in the ETA's second
-// text, bytes that are not UTF-8, a prefix that breaks names.
+// Each function decodes its name before it returns it, and throws EncodeError for what would not decode to
+// the same: a separator or another kind's marker in a field of a kind without JSON, a "|" in the ETA's
+// `sub_text`, bytes that are not UTF-8, a prefix that holds a marker.
 namespace kavrix {
 
 // `nav_mode` selects the style record together with the scene; the descriptor does not hold it. Modes that
@@ -44,7 +44,7 @@ std::string EncodeRouteAccidentResourceName(const RouteAccidentBubbleDrawDescrip
 std::string EncodeSafeWarningResourceName(const SafeWarningBubbleDrawDescriptor& warning);
 std::string EncodeLaneChangeResourceName(const HDLaneChangeBubbleDrawDescriptor& change);
 
-// A marker name, for the second entry point. Its image key is made of the others and not looked at.
+// A marker name, for the second entry point. Ignores the image key, which is made of other members.
 std::string EncodeMarkerResourceName(const MarkerDrawDescriptor& marker);
 
 }  // namespace kavrix

@@ -1,11 +1,11 @@
-// The route-explain bubble: a text that explains a route, with secondary lines and an icon.
+// The route-explain bubble: explains a route by a main line, secondary lines and an icon.
 //
 //   name = prefix JSON-object ".routeExplainBubble"
-//   keys : second_content (array of texts), scene, mode, uid, content, icon, lan, second_type, scene_type,
+//   keys : second_content (array of strings), scene, mode, uid, content, icon, lan, second_type, scene_type,
 //          bubble_type, direction
 //
 // Irregular: "content" fills explain_content, not the base's content. Elements of "second_content" that are
-// no texts are passed over. The records carry the camera's tag.
+// not strings are ignored. The log records have the camera's tag.
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"

@@ -2,8 +2,8 @@
 //
 //   name = prefix content "_" mode "@" direction ".labelBubble"
 //
-// Irregular: the word is chosen by mode, and value 4 fills the first scale alone. Head and tail are read
-// independently; nothing is ever a failure.
+// Irregular: the mode chooses the word, and value 4 fills only the first scale. Head and tail are read
+// independently, and no name is logged as a failure.
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"

@@ -2,8 +2,9 @@
 //
 //   name = prefix content "_" mode "_" scene "@" direction ".nameBubble"
 //
-// Head and tail are read independently: one of the wrong shape does not stop the other. Nothing is ever a
-// failure; what does not fit leaves its members alone, and the style is filled in any case.
+// Head (before "@") and tail are read independently: one of the wrong shape does not stop the other. No name
+// is logged as a failure: what does not fit leaves its members unchanged, and the style is filled in any
+// case.
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"

@@ -3,10 +3,10 @@
 //   name = prefix JSON-object "@" direction ".SafeWarningBubble"
 //   keys : scene, content, lan, type, direction, mode, is_force_, category, distance
 //
-// Irregular: a payload that is not two pieces leaves `out` alone, as no other kind does, and is logged under
-// the traffic tag. The piece behind "@" is the whole of the rest, so it takes no dot; where it is no number
-// the direction stays what the JSON object made it. The descriptor is published whatever it made of its JSON
-// text.
+// Irregular: a payload that is not two parts leaves `out` unchanged, as in no other kind, and is logged under
+// the traffic tag. The part after "@" is the number itself, without a dot; if it is not a number, the
+// direction is that of the JSON object. A broken JSON object is not logged, and the descriptor is published
+// all the same.
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"

@@ -3,7 +3,7 @@
 
 namespace kavrix {
 
-// The keys that the four kinds which decode themselves have in common; each adds its own behind them.
+// The keys that the four kinds whose descriptor decodes itself share; each kind adds its own after them.
 template <class Keys, class Descriptor>
 void SelfInitialisedKeys(Keys& keys, Descriptor& bubble) {
   keys.Integer("scene", bubble.scene);

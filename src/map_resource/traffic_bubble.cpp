@@ -1,7 +1,7 @@
-// The traffic bubble: the traffic situation ahead, on the route.
+// The traffic bubble: the traffic ahead on the route.
 //
-//   name    = prefix JSON-object ".trafficBubble"
-//   keys    : content, direction, mode, light_text, scene, extra_type, nav_mode
+//   name = prefix JSON-object ".trafficBubble"
+//   keys : content, direction, mode, light_text, scene, extra_type, nav_mode
 //
 // "nav_mode" is not stored. With "scene" it selects the style record, and it counts as 1 when absent.
 
@@ -19,12 +19,12 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 1;
 
-// What a name carries: the descriptor has no room for the navigation mode.
+// The descriptor and the navigation mode, which a name carries but the descriptor does not hold.
 struct TrafficName {
   std::shared_ptr<TrafficDrawDescriptor> traffic = std::make_shared<TrafficDrawDescriptor>();
   int nav_mode = TrafficDrawDescriptor::kDefaultNavMode;
 
-  // Which of the two records of a scene other than 0 gives the style.
+  // Chooses between the two style records of scenes other than 0.
   bool IsNavigating() const { return nav_mode == 1; }
 };
 
@@ -42,7 +42,7 @@ struct TrafficFormat : JsonFormat<TrafficFormat, TrafficName> {
   }
 };
 
-// A navigation mode that selects no other record than its neighbours is written as they are.
+// Navigation modes that select the same style record are written as one of them.
 TrafficName Canonical(const TrafficFormat&, TrafficName name) {
   constexpr int kNotNavigating = 0;
   if (name.traffic->scene == 0) name.nav_mode = TrafficDrawDescriptor::kDefaultNavMode;
@@ -50,7 +50,7 @@ TrafficName Canonical(const TrafficFormat&, TrafficName name) {
   return name;
 }
 
-// The three traffic records differ only in length.
+// The three traffic style records differ only in length.
 template <class Record>
 void ApplyTrafficStyle(Record&& record, TrafficDrawDescriptor& traffic) {
   ApplyCommonStyle(std::forward<Record>(record), traffic);

@@ -3,9 +3,9 @@
 //   name = prefix JSON-object ".turnBubble"
 //   keys : is_force_, type, direction, mode, scene, lan, distance
 //
-// Irregular: the request is logged before anything is read (the one record of this kind), a broken payload
-// not at all. The kind code is written once the payload is cut, so a name shorter than the prefix leaves it
-// 0. The style name is there whether or not the payload parses.
+// Irregular: the name is logged before it is read, and nothing else is, not even a broken payload. The kind
+// code is set after the payload is cut out, so a name shorter than the prefix leaves it 0. Of the style only
+// the name is filled, whether or not the payload parses.
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"

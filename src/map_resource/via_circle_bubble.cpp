@@ -3,8 +3,8 @@
 //   name = prefix JSON-object ".viaCircleBubble"
 //   keys : scene, lan, mode, direction, route_id, index, is_selected, is_reached, is_main_map, resource_id
 //
-// Irregular: its three flags count when not 0, where "is_force_" and the like want 1. A failure is logged
-// under the traffic tag, success not at all.
+// Irregular: its three flags are true when not 0; "is_force_" and the like require 1. A failure is logged
+// under the traffic tag; success is not logged.
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"

@@ -3,9 +3,9 @@
 //   name = prefix JSON-object ".YawNoticeBubble"
 //   keys : scene, content, lan, type, direction, mode, is_force_, reason
 //
-// The descriptor gets the whole name and finds its JSON object in it, from the first brace behind the prefix
-// to the last. No record is ever written, no style read, no kind code set; a name without a readable object
-// gives a descriptor as constructed.
+// The descriptor gets the whole name and finds its JSON object in it, from the first "{" after the prefix to
+// the last "}". The parser writes no log record, fills no style and sets no kind code. A name without a
+// readable object gives a descriptor as constructed.
 
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"

@@ -6,11 +6,11 @@
 
 namespace kavrix {
 
-// Appends a text from a name with whatever could end the line, begin another or move the cursor escaped, as
-// util/log_line.h lists it: AppendEscaped(line, "a\nb\\c") appends a\nb\\c.
+// Appends untrusted text, and escapes what could end the line, begin another or move the cursor, as
+// util/log_line.h lists: AppendEscaped(line, "a\nb\\c") appends a\nb\\c.
 void AppendEscaped(std::string& line, std::string_view text);
 
-// The same in double quotes, with those of the text escaped too: AppendQuoted(line, "say \"hi\"") appends
+// The same in double quotes, and escapes the quotes of the text too: AppendQuoted(line, "say \"hi\"") appends
 // "say \"hi\"".
 void AppendQuoted(std::string& line, std::string_view text);
 

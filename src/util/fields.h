@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <string_view>
 
-// Cuts texts into fields and reads numbers from them, without copies. The functions of string_util.h run
+// Cuts strings into fields and reads numbers from them, without copies. The functions of string_util.h call
 // these.
 namespace kavrix {
 
@@ -19,12 +19,12 @@ inline bool TakeField(std::string_view& rest, std::string_view separators, std::
   return end != std::string_view::npos;
 }
 
-// The first N fields of a text cut at one separator character, white space and empty fields kept. The fields
-// are views into that text.
+// The first N fields of a string cut at one separator character, blanks and empty fields kept. The fields are
+// views of that string.
 template <std::size_t N>
 struct Fields {
   std::array<std::string_view, N> at;
-  std::size_t count = 0;  // the number of fields; anything above N is counted as N + 1
+  std::size_t count = 0;  // the number of fields; N + 1 when there are more than N
 };
 
 template <std::size_t N>
@@ -40,16 +40,15 @@ Fields<N> SplitFields(std::string_view text, char separator) {
   return fields;
 }
 
-// True when the whole of `text` is a decimal integer, with an optional leading '+' or '-', that fits a signed
-// 32-bit int; it is stored in `value` then. Blanks are not accepted. On false `value` is unchanged.
+// True when the whole of `text` is a decimal integer that fits a signed 32-bit int, with an optional leading
+// '+' or '-' and no blanks; stores it in `value`. On false `value` is unchanged.
 bool ReadInt(std::string_view text, int& value);
 
-// What atoi makes of `text` where long has 64 bits, on every machine: the value of the decimal digits after
-// blanks and an optional sign, 0 where there are none. A value beyond 64 bits is held at the nearest end of
-// that range; the low 32 bits are returned.
+// Reads as atoi does where long has 64 bits, on every machine: the value of the decimal digits after blanks
+// and an optional sign, 0 without digits. Clamps the value to 64 bits and returns the low 32.
 int LeadingInt(std::string_view text);
 
-// The text without the ASCII blanks at both ends.
+// Returns `text` without the ASCII blanks at both ends.
 std::string_view Trimmed(std::string_view text);
 
 }  // namespace kavrix

@@ -9,8 +9,8 @@ namespace {
 // "[" and "{" differ in one bit.
 bool IsOpening(char c) { return (c | 0x20) == '{'; }
 
-// Walks over the tokens as the reader does and keeps the brackets around the current place. Where the reader
-// refuses a text, it goes no deeper: what is made of the rest does not matter.
+// Walks over the tokens as JsonCpp's reader does and keeps the brackets around the current place. The reader
+// goes no deeper after an error: what the walk makes of the rest does not matter.
 class NestingScanner {
  public:
   explicit NestingScanner(std::string_view text) : text_(text) {}
@@ -39,8 +39,8 @@ class NestingScanner {
   }
 
  private:
-  // What stands behind the first slash. False when it is no comment; two bytes are taken then, as the reader
-  // does.
+  // Skips what follows the first slash. False when it is not a comment: then takes two bytes in all, as the
+  // reader does.
   bool SkipComment() {
     if (at_ == text_.size()) return false;
     const char kind = text_[at_++];
@@ -64,8 +64,8 @@ class NestingScanner {
     behind_value_ = true;
   }
 
-  // In an object, the reader takes whatever follows a value and a comment for the separator, but for a "}".
-  // Behind a value there is always a bracket around it: the walk ends with the root.
+  // In an object, the reader takes anything but "}" that follows a value and a comment for the separator. A
+  // bracket is always open after a value: the walk ends with the root.
   bool IsSeparator(char c) const {
     const bool anything_goes = comment_seen_ && behind_value_ && open_.back() == '{';
     return c == ',' || c == ':' || anything_goes;
@@ -79,15 +79,15 @@ class NestingScanner {
   const std::string_view text_;
   std::size_t at_ = 0;
   std::string open_;           // the brackets around the current place
-  bool behind_value_ = false;  // what stands here follows a value (or a key)
-  bool comment_seen_ = false;  // with nothing but comments between
+  bool behind_value_ = false;  // the next token follows a value (or a key)
+  bool comment_seen_ = false;  // since the last token
 };
 
 }  // namespace
 
 bool IsNestedDeeperThan(std::string_view text, std::size_t limit) {
   const auto opening = std::count_if(text.begin(), text.end(), IsOpening);
-  if (static_cast<std::size_t>(opening) < limit) return false;  // most texts are done here
+  if (static_cast<std::size_t>(opening) < limit) return false;  // true of most texts
   return NestingScanner(text).ComesDeeperThan(limit);
 }
 

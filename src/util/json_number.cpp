@@ -8,7 +8,7 @@
 namespace kavrix::JsonUtil {
 namespace {
 
-// The C library takes the decimal point from its locale, so it gets the digits without one: 1.5 as 15e-1.
+// Writes 1.5 as 15e-1, because the C library takes the decimal point from its locale.
 std::string WithoutPoint(std::string_view number) {
   constexpr std::int64_t kFar = 1'000'000'000'000;  // zero or infinity for any text that fits into memory
   const std::size_t end_of_digits = std::min(number.find_first_of("eE"), number.size());

@@ -5,8 +5,8 @@
 
 #include <string>
 
-// Members of a JSON object by the rules of resource names: one that is absent or of another type counts as
-// the default.
+// Reads members of a JSON object by the rules of resource names: one that is absent or of another type counts
+// as the default.
 namespace kavrix::JsonUtil {
 
 // The member `key` of `object` when it exists and is a string, else `default_value`.

@@ -7,7 +7,8 @@
 #include "util/strict_json.h"
 #include "util/utf8.h"
 
-// Some JsonCpp versions mark the legacy reader deprecated. Its accept set is the contract, so it stays.
+// Some JsonCpp versions mark the legacy reader as deprecated. It stays: what it accepts is part of what a
+// name means.
 #if defined(__GNUC__)
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 #endif
@@ -15,7 +16,7 @@
 namespace kavrix::JsonUtil {
 
 bool ParseObject(std::string_view text, Json::Value& root) {
-  // A text no longer than the limit cannot nest deeper: that many brackets leave no room for a value inside.
+  // A text no longer than the limit cannot nest deeper: so many brackets leave no room for a value.
   if (text.size() > kDeepestValue && IsNestedDeeperThan(text, kDeepestValue)) return false;
   try {
     Json::Reader reader;
@@ -46,7 +47,8 @@ std::optional<int> AsInt(const Json::Value& value) {
   return static_cast<int>(*number);
 }
 
-// isInt64() and its like are true for reals with an integral value; only the stored type tells them apart.
+// isInt64() and the like are also true for reals with an integral value; only the stored type tells them
+// apart.
 std::optional<std::int64_t> AsInteger(const Json::Value& value) {
   const Json::ValueType type = value.type();
   const bool is_integer = type == Json::intValue || (type == Json::uintValue && value.isInt64());
@@ -64,7 +66,7 @@ std::optional<std::string_view> AsText(const Json::Value& value) {
   const char* end = nullptr;
   if (value.getString(&begin, &end)) return std::string_view(begin, static_cast<std::size_t>(end - begin));
   if (!value.isString()) return std::nullopt;
-  return std::string_view();  // made of a null pointer
+  return std::string_view();  // a string value made from a null pointer
 }
 
 std::string ToText(const Json::Value& value) {

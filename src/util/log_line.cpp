@@ -7,7 +7,7 @@
 namespace kavrix::logging {
 namespace {
 
-// A field ends at the next blank, so it has none itself.
+// Escapes blanks too: a blank ends the field.
 void AppendField(std::string& line, std::string_view text) {
   for (std::size_t blank = text.find(' '); blank != std::string_view::npos; blank = text.find(' ')) {
     AppendEscaped(line, text.substr(0, blank));

@@ -9,12 +9,13 @@
 
 namespace kavrix::logging {
 
-// A record as one line of text, the newline at its end left out:
+// Returns the log record as one line, without the newline:
 //
 //   failure KavrixMapLayerMgr GetBubbleDrawDescriptor map_resource_transform.cpp:22 [Kavrix][main-map]...
 //
-// The message holds resource names, which anyone may have written; none can end the line, begin another or
-// move the cursor. What could is escaped, so that a line tells exactly what the record held:
+// The message holds resource names, which anyone may have written. Characters that could end the line, begin
+// another or move the cursor are escaped, and so is the backslash, so that the line still shows exactly what
+// the log record held:
 //
 //   \\                  a backslash
 //   \n \r \t            newline, carriage return, tab
@@ -22,9 +23,9 @@ namespace kavrix::logging {
 //   \xff ...            a byte that is not UTF-8; in the four fields before the message also the blank, \x20
 std::string FormatLogLine(const LogRecord& record);
 
-// A sink that writes the lines to a stream, each in one piece under a lock of its own. The stream must
-// outlive the sink, which lives on after its removal where a record was begun before: see SetLoggerInstance.
-// Set std::unitbuf on it to have every line flushed.
+// A sink that writes the lines to a stream, each in one piece under its own lock. The stream must outlive the
+// sink, which log records begun before its removal keep alive: see SetLoggerInstance. Set std::unitbuf on the
+// stream to flush every line.
 class StreamSink : public LogSink {
  public:
   explicit StreamSink(std::ostream& stream) : stream_(stream) {}

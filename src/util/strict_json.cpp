@@ -39,7 +39,7 @@ std::string Hex(std::uint32_t number, std::size_t digits, const char* digit_set)
   return hex;
 }
 
-// The first character of `rest` for a message; beyond ASCII with its number, because some do not show.
+// Shows the first character of `rest` in a message, beyond ASCII with its number: some are invisible.
 std::string Found(std::string_view rest) {
   constexpr char32_t kByteOrderMark = 0xFEFF;
   if (rest.empty()) return "the end";
@@ -138,7 +138,7 @@ class StrictReader {
     return array;
   }
 
-  // What follows the opening quote.
+  // Reads what follows the opening quote.
   std::string ReadText() {
     std::string text;
     while (!Take('"')) {
@@ -160,7 +160,7 @@ class StrictReader {
     at_ += piece.length;
   }
 
-  // What follows the backslash.
+  // Reads what follows the backslash.
   void ReadEscape(std::string& text) {
     constexpr std::string_view kLetters = "\"\\/bfnrt";
     constexpr std::string_view kMeanings = "\"\\/\b\f\n\r\t";
@@ -171,7 +171,7 @@ class StrictReader {
     ++at_;
   }
 
-  // What follows "\u": four digits, or two escapes that make a character together.
+  // Reads what follows "\u": four digits, or the two escapes of a surrogate pair.
   char32_t ReadCodePoint() {
     const std::size_t begin = at_ - 2;
     const char32_t first = ReadFourDigits();

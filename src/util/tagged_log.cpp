@@ -20,12 +20,12 @@ class InstanceTable {
  public:
   void Set(std::uint32_t id, InstancePointer instance) {
     const std::lock_guard<std::mutex> lock(mutex_);
-    instances_[id].swap(instance);  // what was installed before goes with the parameter, after the lock
+    instances_[id].swap(instance);  // the parameter destroys the old instance, after the lock
     is_empty_ = false;
   }
 
   void Remove(std::uint32_t id) {
-    InstancePointer removed;  // goes after the lock
+    InstancePointer removed;  // destroyed after the lock
     const std::lock_guard<std::mutex> lock(mutex_);
     const auto found = instances_.find(id);
     if (found == instances_.end()) return;
@@ -42,13 +42,13 @@ class InstanceTable {
   }
 
  private:
-  std::atomic<bool> is_empty_{true};  // spares the lock where nobody logs
+  std::atomic<bool> is_empty_{true};  // spares the lock when nobody logs
   std::mutex mutex_;
   std::map<std::uint32_t, InstancePointer> instances_;
 };
 
-// Never destroyed, because a static object may decode in its destructor; and in a place of its own, so that
-// no decode is the one that needs memory for it.
+// Never destroyed, because the destructor of a static object may decode. Built in static storage, so that no
+// decode has to allocate it.
 InstanceTable& Instances() {
   alignas(InstanceTable) static std::byte place[sizeof(InstanceTable)];
   static InstanceTable& table = *new (place) InstanceTable;
@@ -74,7 +74,7 @@ bool Logger::TestLogLevelAndTag(std::uint32_t instance_id, LogLevel level, const
 
 MessageBuffer::MessageBuffer() {
   constexpr std::size_t kLengthOfMost = 512;
-  text_.reserve(kLengthOfMost);  // which then need not grow
+  text_.reserve(kLengthOfMost);  // spares most messages the growing
 }
 
 std::streambuf::int_type MessageBuffer::overflow(int_type c) {
@@ -87,8 +87,8 @@ std::streamsize MessageBuffer::xsputn(const char* bytes, std::streamsize count) 
   return count;
 }
 
-// The stream is told to let exceptions through at the first one, not before: inserters that copy the stream's
-// format copy its exception mask too, and would throw where nothing failed.
+// Sets the stream's exception mask only at the first exception: inserters that copy the stream's format copy
+// the mask too, and would throw where nothing failed.
 template <class Append>
 void MessageBuffer::LetThrough(Append append) {
   try {
@@ -114,7 +114,7 @@ Record::~Record() {
   if (instance_ == nullptr) return;
   try {
     instance_->sink->Write({level_, tag_, function_, file_, line_, message_.text()});
-  } catch (...) {  // NOLINT(bugprone-empty-catch): a failing sink costs its record, never the decode
+  } catch (...) {  // NOLINT(bugprone-empty-catch): a failing sink costs its log record, never the decode
   }
 }
 

@@ -11,9 +11,9 @@
 #include <streambuf>
 #include <string>
 
-// Log records with a tag, filtered by level and tag before anything of the message is evaluated. A sink
-// receives the finished records; util/tagged_log_plog.h makes one of any plog appender or logger,
-// util/log_line.h one of any stream.
+// Log records with a tag, filtered by level and tag before any part of the message is evaluated. A sink
+// receives the finished log records; util/tagged_log_plog.h makes a sink of any plog appender or logger,
+// util/log_line.h of any stream.
 namespace kavrix::logging {
 
 enum class LogLevel {
@@ -21,7 +21,7 @@ enum class LogLevel {
   kFailure = 1,  // a name that cannot be used, a payload that does not parse
 };
 
-// One record as a sink sees it; the references hold for the length of the call.
+// One log record as a sink sees it. The references are valid only during the call.
 struct LogRecord {
   LogLevel level;
   const std::string& tag;
@@ -35,18 +35,18 @@ class LogSink {
  public:
   virtual ~LogSink() = default;
   // Called on the decoding thread with no lock held, possibly by several threads at once: the sink locks
-  // itself. It may decode names of its own. What it throws is dropped with the record.
+  // itself. It may decode names itself. What it throws is dropped together with the log record.
   virtual void Write(const LogRecord& record) = 0;
 };
 
-// Where the records of one instance go, and which.
+// Where the log records of one instance go, and which ones pass.
 struct LoggerInstance {
   std::shared_ptr<LogSink> sink;
-  LogLevel least_level = LogLevel::kRoutine;               // kFailure leaves routine records out
+  LogLevel least_level = LogLevel::kRoutine;               // kFailure: only failures pass
   std::function<bool(const std::string& tag)> tag_filter;  // true lets a tag pass; empty: all pass
 };
 
-// The instance that records go to: one number for the whole process, 0 at first. Set by the client at any
+// The id of the instance that log records go to, for the whole process. 0 at first; clients may set it at any
 // time.
 extern std::atomic<std::uint32_t> kavrix_log_instance_id_;
 
@@ -59,12 +59,13 @@ void SetLoggerInstance(std::uint32_t instance_id, LoggerInstance instance);
 
 class Logger {
  public:
-  // True when a record of this level and tag would be written by that instance. A filter that throws says no.
+  // True when that instance takes log records of this level and tag. A filter that throws counts as false.
   static bool TestLogLevelAndTag(std::uint32_t instance_id, LogLevel level, const std::string& tag) noexcept;
 };
 
-// The text of a message and the stream that writes it. A stream swallows what its buffer throws and is silent
-// from then on; this one lets it through, such as std::bad_alloc, and keeps what was written before.
+// The text of a message and the stream that writes it. A plain stream swallows what its buffer throws and is
+// silent from then on. This one lets exceptions such as std::bad_alloc through and keeps what was written
+// before.
 class MessageBuffer : private std::streambuf {
  public:
   MessageBuffer();
@@ -81,19 +82,19 @@ class MessageBuffer : private std::streambuf {
   std::ostream stream_{this};
 };
 
-// A record being written. Its destructor completes it and hands it to the instance's sink. An exception while
-// the message is written, such as std::bad_alloc, leaves the statement; the record is then delivered with
-// what was written until there. The destructor itself needs no memory and never throws.
+// A log record being written. Its destructor hands it to the instance's sink. An exception in the message,
+// such as std::bad_alloc, leaves the log statement; the sink then gets what was written until there. The
+// destructor itself needs no memory and never throws.
 class Record {
  public:
-  // `tag` must outlive the record.
+  // `tag` must outlive the object.
   Record(LogLevel level, const char* function, unsigned long line, const char* file,
          std::uint32_t instance_id, const std::string& tag);
   Record(const Record&) = delete;
   Record& operator=(const Record&) = delete;
   ~Record();
 
-  // Numbers print as in the C locale, whatever the process is set to.
+  // Numbers print as in the classic locale, whatever the global one is.
   std::ostream& Stream() { return message_.Stream(); }
 
  private:
@@ -102,7 +103,7 @@ class Record {
   const unsigned long line_;
   const char* const file_;
   const std::string& tag_;
-  const std::shared_ptr<const LoggerInstance> instance_;  // null when there is none with that id
+  const std::shared_ptr<const LoggerInstance> instance_;  // null when no instance has that id
   MessageBuffer message_;
 };
 
@@ -116,14 +117,14 @@ constexpr const char* BaseName(const char* path) {
 
 }  // namespace kavrix::logging
 
-// Writes one record from a member function of a class with a `context_` member. `tag` is an identifier that
-// begins with "LogTag"; the tag is its text less those 6 characters. `insertions` is what would stand between
-// a stream and the semicolon. The instance is loaded once for the filter and once for the record, so that a
-// change between the two is taken up at once.
+// Writes one log record, from a member function of a class with a `context_` member. `tag` is an identifier
+// that begins with "LogTag"; the tag is the identifier without those 6 characters. `insertions` is what
+// follows "stream <<": a << b. The instance id is loaded once for the filter and once for the log record, so
+// that a change between the two takes effect at once.
 #define KAVRIX_LOG(tag, level, insertions) KAVRIX_LOG_IN(__func__, tag, level, insertions)
 
-// The same from a lambda, whose own name is of no use: `function` is the __func__ of the function around it.
-// NOLINTBEGIN(bugprone-macro-parentheses): insertions cannot stand in parentheses
+// The same from a lambda, where __func__ is of no use: `function` is the __func__ of the enclosing function.
+// NOLINTBEGIN(bugprone-macro-parentheses): a << b cannot be put in parentheses
 #define KAVRIX_LOG_IN(function, tag, level, insertions)                                                   \
   do {                                                                                                    \
     namespace kavrix_logging = ::kavrix::logging;                                                         \

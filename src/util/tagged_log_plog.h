@@ -1,10 +1,10 @@
 #ifndef KAVRIX_UTIL_TAGGED_LOG_PLOG_H_
 #define KAVRIX_UTIL_TAGGED_LOG_PLOG_H_
 
-// Hands the library's log records to plog. The library itself is built without plog: this header compiles in
-// the client, against the client's own plog (1.0 and 1.1), so the two never disagree about plog's classes.
+// Hands the library's log records to plog. The library itself is built without plog: the client compiles this
+// header against its own plog (1.0 or 1.1), so the two never disagree about plog's classes.
 
-// plog 1.0's Logger.h needs Record.h before it.
+// Logger.h of plog 1.0 needs Record.h before it.
 // clang-format off
 #include <plog/Record.h>
 #include <plog/Logger.h>
@@ -19,22 +19,22 @@
 namespace kavrix::logging {
 
 // A sink that writes to a plog appender, or to a plog logger, which is an appender too and filters by its own
-// severity. Level 0 arrives as plog::info, level 1 as plog::error. plog has no tags: filter by tag before,
-// with LoggerInstance::tag_filter. The appender must lock itself if several threads decode, and must outlive
-// the sink, which lives on after its removal where a record was begun before: see SetLoggerInstance.
+// severity. Level 0 arrives as plog::info, level 1 as plog::error. plog has no tags: filter by tag with
+// LoggerInstance::tag_filter. The appender must lock itself if several threads decode, and must outlive the
+// sink, which log records begun before its removal keep alive: see SetLoggerInstance.
 class PlogSink : public LogSink {
  public:
   explicit PlogSink(plog::IAppender& appender) : appender_(appender) {}
 
   void Write(const LogRecord& record) override {
-    // plog takes a compiler's function signature and prints what stands before its parenthesis.
+    // plog takes a function signature and prints what precedes its parenthesis.
     const std::string signature = std::string(record.function) + "()";
     WriteAs<plog::Record>(record, signature.c_str());
   }
 
  private:
-  // The constructor grew with plog: (severity, function, line, object), then a file, then an instance id.
-  // A template, because only then the branches for other versions are left uncompiled.
+  // plog's constructor grew from (severity, function, line, object) by a file, then by an instance id. This
+  // is a template because only a template leaves the branches for other versions uncompiled.
   template <class PlogRecord>
   void WriteAs(const LogRecord& record, const char* signature) {
     const plog::Severity severity = record.level == LogLevel::kRoutine ? plog::info : plog::error;

@@ -7,7 +7,7 @@ namespace kavrix {
 namespace {
 
 struct LeadByte {
-  std::size_t length;  // of the whole character; 0: no character begins so
+  std::size_t length;  // of the whole character; 0: no character begins with this byte
   // The range of its second byte, narrower than that of the others where an overlong form, a surrogate or a
   // number above U+10FFFF would begin.
   unsigned char second_low = 0x80;

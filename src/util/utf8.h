@@ -7,28 +7,29 @@
 
 namespace kavrix {
 
-// What stands at the beginning of a text: one character, or bytes that are none.
+// The beginning of a text: one character, or bytes that are none.
 struct Utf8Piece {
   std::size_t length;   // in bytes; 0 at the end of the text
-  char32_t code_point;  // 0 for what is no character
+  char32_t code_point;  // 0 when not valid
   bool is_valid;
 };
 
-// A piece that is not valid is the longest beginning of a character that is cut short or goes on wrongly, at
+// Returns the first piece of `text`. A piece that is not valid is as much as could begin a character, at
 // least one byte: what Unicode recommends to replace by one U+FFFD. Surrogates and overlong forms are not
 // valid.
 Utf8Piece NextUtf8(std::string_view text);
 
-// C0, DEL, C1, and the line and direction controls that would let a text rearrange what stands around it.
+// True for C0, DEL, C1, and the line and direction controls with which a text could rearrange what is around
+// it.
 bool IsControl(char32_t c);
 
-// How many bytes at the beginning are valid characters; the size of the text when all are.
+// Returns how many bytes at the beginning are valid characters; the size of the text when all are.
 std::size_t ValidUtf8Length(std::string_view text);
 
-// The first 60 characters, and "..." where the text goes on. For messages.
+// Returns the first 60 characters, and "..." if there are more. For messages.
 std::string Excerpt(std::string_view text);
 
-// A copy with every piece that is not valid replaced by U+FFFD.
+// Returns a copy with every piece that is not valid replaced by U+FFFD.
 std::string ToValidUtf8(std::string_view text);
 
 }  // namespace kavrix
