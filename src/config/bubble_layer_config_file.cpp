@@ -14,7 +14,7 @@
 namespace kavrix {
 namespace {
 
-constexpr const char* kWord = "an integer from 0 to 4294967295 or a text such as \"0xffff0000\"";
+constexpr const char* kWord = "an integer from 0 to 4294967295 or a string such as \"0xffff0000\"";
 
 [[noreturn]] void FailUnknown(const std::string& where, const std::string& key, const char* expected) {
   throw ConfigError(where + ": unknown key \"" + Excerpt(key) + "\", expected " + expected);
@@ -70,7 +70,7 @@ class ConfigReader {
 
   std::string ReadText(const std::string& where, const Json::Value& value) const {
     const auto text = JsonUtil::AsText(value);
-    if (!text) Fail(where, "a text", value);
+    if (!text) Fail(where, "a string", value);
     return std::string(*text);
   }
 

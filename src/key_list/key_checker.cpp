@@ -14,7 +14,7 @@ void KeyChecker::Text(std::string_view key, std::string& text) {
   const Json::Value* const value = Take(key);
   if (value == nullptr) return;
   const auto found = JsonUtil::AsText(*value);
-  if (!found) Fail(key, "a text", *value, "\"" + text + "\"");
+  if (!found) Fail(key, "a string", *value, "\"" + text + "\"");
   text = *found;
 }
 
@@ -24,7 +24,7 @@ void KeyChecker::Texts(std::string_view key, std::vector<std::string>& texts) {
   for (const Json::Value& element : *array) {
     const auto text = JsonUtil::AsText(element);
     if (!text)
-      Fail(std::string(key) + "[" + std::to_string(texts.size()) + "]", "a text", element, "no line");
+      Fail(std::string(key) + "[" + std::to_string(texts.size()) + "]", "a string", element, "no line");
     texts.emplace_back(*text);
   }
 }

@@ -24,7 +24,7 @@ std::string Decoded(const std::string& name, std::string_view marker) {
   const std::string kind(info.Name());
   try {
     const std::optional<std::string> fields = info.codec.read_fields(name);
-    return kind + " " + fields.value_or("without any field, for its payload does not parse");
+    return kind + " " + fields.value_or("without fields, because its payload does not parse");
   } catch (const std::exception&) {
     return kind + " with bytes that are not UTF-8";
   }

@@ -30,7 +30,7 @@ std::string ErrorOfValues(const std::string& record, const std::string& values) 
   return ErrorOfLayer("\"" + record + R"(":{"values":)" + values + "}");
 }
 
-constexpr char kWord[] = "an integer from 0 to 4294967295 or a text such as \"0xffff0000\"";
+constexpr char kWord[] = "an integer from 0 to 4294967295 or a string such as \"0xffff0000\"";
 
 TEST(BubbleLayerConfigErrorsTest, TextThatIsNoJson) {
   for (const std::string text : {"", "{", "{} x", "// c\n{}", "{'a':1}", R"({"context_name":"a",})"}) {
@@ -68,8 +68,8 @@ TEST(BubbleLayerConfigErrorsTest, UnknownKey) {
 }
 
 TEST(BubbleLayerConfigErrorsTest, ContextNameThatIsNoText) {
-  EXPECT_EQ(ErrorOf(R"({"context_name":5})"), "context_name: expected a text, found 5");
-  EXPECT_EQ(ErrorOf(R"({"context_name":null})"), "context_name: expected a text, found null");
+  EXPECT_EQ(ErrorOf(R"({"context_name":5})"), "context_name: expected a string, found 5");
+  EXPECT_EQ(ErrorOf(R"({"context_name":null})"), "context_name: expected a string, found null");
 }
 
 TEST(BubbleLayerConfigErrorsTest, MultiLightTypeThatIsNo32BitInteger) {
@@ -105,7 +105,7 @@ TEST(BubbleLayerConfigErrorsTest, UnknownKeyOfARecord) {
 }
 
 TEST(BubbleLayerConfigErrorsTest, NameThatIsNoText) {
-  EXPECT_EQ(ErrorOfLayer(R"("traffic_style":{"name":7})"), "traffic_style.name: expected a text, found 7");
+  EXPECT_EQ(ErrorOfLayer(R"("traffic_style":{"name":7})"), "traffic_style.name: expected a string, found 7");
 }
 
 TEST(BubbleLayerConfigErrorsTest, ValuesThatAreNoArray) {
@@ -116,7 +116,7 @@ TEST(BubbleLayerConfigErrorsTest, MarkerBubbleIsCheckedAsTheRecordsOfTheLayerAre
   EXPECT_EQ(ErrorOf(R"({"marker_bubble":[]})"), "marker_bubble: expected an object, found []");
   EXPECT_EQ(ErrorOf(R"({"marker_bubble":{"style":1}})"),
             "marker_bubble: unknown key \"style\", expected \"name\" or \"values\"");
-  EXPECT_EQ(ErrorOf(R"({"marker_bubble":{"name":1}})"), "marker_bubble.name: expected a text, found 1");
+  EXPECT_EQ(ErrorOf(R"({"marker_bubble":{"name":1}})"), "marker_bubble.name: expected a string, found 1");
   EXPECT_EQ(ErrorOf(R"({"marker_bubble":{"values":[0,1.5]}})"),
             std::string("marker_bubble value 2: expected ") + kWord + ", found 1.5");
   EXPECT_EQ(ErrorOf(R"({"marker_bubble":{"values":[0,0,"1"]}})"),

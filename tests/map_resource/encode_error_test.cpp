@@ -162,7 +162,7 @@ TEST(EncodeErrorTest, PrefixThatHoldsAMarker) {
   EXPECT_EQ(error.field(), "prefix");
   EXPECT_STREQ(error.what(),
                "turnBubble: prefix: \"x.trafficBubble/\" holds a marker; the reader would have decoded "
-               "trafficBubble without any field, for its payload does not parse");
+               "trafficBubble without fields, because its payload does not parse");
   EXPECT_FALSE(error.character());
 }
 

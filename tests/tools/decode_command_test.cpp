@@ -254,7 +254,7 @@ TEST(DecodeCommandTest, UnusableConfigurationIsTroubleAndNothingIsDecoded) {
   EXPECT_EQ(result.output, "");
   EXPECT_EQ(
       result.errors,
-      "kavrix-resource: /dev/stdin: turn_style value 2: expected an integer from 0 to 4294967295 or a text "
+      "kavrix-resource: /dev/stdin: turn_style value 2: expected an integer from 0 to 4294967295 or a string "
       "such as \"0xffff0000\", found 1.5\n");
 }
 

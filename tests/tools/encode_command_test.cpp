@@ -59,10 +59,10 @@ TEST(EncodeCommandTest, RefusesWhatNamesCannotCarryAndGoesOn) {
       {R"({"kind":"cameraBubble","fields":{"cameras":{}}})",
        "cameraBubble: cameras: expected an array, found {}; the reader would have decoded []"},
       {R"({"kind":"routeExplainBubble","fields":{"second_content":["a",1]}})",
-       "routeExplainBubble: second_content[1]: expected a text, found 1; the reader would have decoded no "
+       "routeExplainBubble: second_content[1]: expected a string, found 1; the reader would have decoded no "
        "line"},
       {R"({"kind":"turnBubble","fields":{"lan":7}})",
-       R"(turnBubble: lan: expected a text, found 7; the reader would have decoded "")"},
+       R"(turnBubble: lan: expected a string, found 7; the reader would have decoded "")"},
       {R"({"kind":"turnBubble","fields":[]})", "turnBubble: fields: expected an object, found []"},
       {R"({"kind":"inDoorEntriesBubble","fields":{"entries_value":40000}})",
        "inDoorEntriesBubble: entries_value: expected an integer from -32768 to 32767, found 40000; the "
