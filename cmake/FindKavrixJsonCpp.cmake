@@ -1,5 +1,5 @@
-# Gives Kavrix::JsonCpp, whichever way this machine's JsonCpp announces itself: its own package with the target of
-# 1.9.5 and later or the older one, else pkg-config.
+# Defines Kavrix::JsonCpp from JsonCpp's own package, with the target name of 1.9.5 and later or the older one, else
+# from pkg-config.
 if(NOT TARGET Kavrix::JsonCpp)
   find_package(jsoncpp CONFIG QUIET)
   add_library(Kavrix::JsonCpp INTERFACE IMPORTED)

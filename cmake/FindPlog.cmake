@@ -1,5 +1,5 @@
-# Gives plog::plog: plog's own package, else bare headers (Debian has them inside r-cran-plogr; scripts/setup unpacks
-# them to build/plog, and PLOG_INCLUDE_DIR names another place). Needed by the tests alone: the library has no plog in it.
+# Defines plog::plog from plog's own package, else from bare headers (Debian has them inside r-cran-plogr; scripts/setup
+# unpacks them to build/plog, and PLOG_INCLUDE_DIR names another place). Only the tests and examples need plog.
 if(NOT TARGET plog::plog)
   find_package(plog CONFIG QUIET)
 endif()

@@ -1,5 +1,5 @@
-# Cross build by Debian's compilers: -DKAVRIX_ARM_TRIPLET=aarch64-linux-gnu or arm-linux-gnueabihf. Packages are those
-# of the other architecture, installed beside this machine's own.
+# Cross-compiles with Debian's compilers: -DKAVRIX_ARM_TRIPLET=aarch64-linux-gnu or arm-linux-gnueabihf. Uses the other
+# architecture's packages, installed beside this machine's own.
 set(CMAKE_SYSTEM_NAME Linux)
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES KAVRIX_ARM_TRIPLET)
 if(KAVRIX_ARM_TRIPLET STREQUAL "aarch64-linux-gnu")

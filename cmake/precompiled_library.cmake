@@ -1,5 +1,5 @@
-# For CMAKE_PROJECT_INCLUDE: the library of a project that is built over and over, with what its sources include most
-# compiled once. Not for other builds, where it would hide an include that a source forgot.
+# For CMAKE_PROJECT_INCLUDE in builds that are repeated often: precompiles the headers that the library's sources
+# include most. Not for other builds: it would hide a missing include.
 cmake_language(
   DEFER
   CALL

@@ -1,5 +1,5 @@
-# What a client may include, below src/ and, installed, below include/kavrix_map_resource/: the entry points and what
-# they include themselves. Every other header is internal.
+# The headers that a client may include: the entry points and what they include. Paths are relative to src/ and, once
+# installed, to include/kavrix_map_resource/. Every other header is internal.
 set(KAVRIX_PUBLIC_HEADERS
     config/bubble_layer_config_container.h
     config/bubble_layer_config_file.h
