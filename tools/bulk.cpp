@@ -15,13 +15,13 @@
 namespace kavrix::tools {
 namespace {
 
-// The names given, else those of standard input.
+// Yields the names of the command line or, without any, those of standard input.
 class NameSource {
  public:
   explicit NameSource(const BulkOptions& options)
       : given_(options.names), input_(options.null_delimited ? '\0' : '\n') {}
 
-  // Adds up to `most` names, as many as are there without waiting but for the first. False at the end.
+  // Adds up to `most` names; waits only for the first. Returns false at the end.
   bool Take(std::size_t most, std::vector<std::string>& names) {
     std::string name;
     while (names.size() < most && (names.empty() || HasNext()) && Next(name))
@@ -31,7 +31,7 @@ class NameSource {
 
   void Interrupt() { input_.Interrupt(); }
 
-  // All that there is to take; none when nobody can know.
+  // The size of all the names, newlines included; none when it is unknown.
   std::optional<std::uint64_t> Bytes() const {
     if (given_.empty()) return NameInput::BytesLeft();
     std::uint64_t bytes = 0;
@@ -58,10 +58,10 @@ struct Batch {
   std::size_t bytes = 0;
   std::size_t failed = 0;
   std::string results;
-  std::vector<std::pair<std::size_t, std::string>> problems;  // with the place in the batch, from 1
+  std::vector<std::pair<std::size_t, std::string>> problems;  // each with its place in the batch, from 1
 };
 
-// Enough to make the hand-over between threads cheap, few enough to keep the results of a batch in a cache.
+// Enough names to make the hand-over between threads cheap, few enough to keep a batch's results in cache.
 constexpr std::size_t kMostNames = 64;
 
 bool ShowsProgress(const BulkOptions& options) {
@@ -81,8 +81,8 @@ NameResult ResultOf(const std::function<std::string()>& work) {
 
 void AddBulkOptions(Command& command, BulkOptions& options) {
   constexpr int kMostJobs = 256;
-  command.Integer("--jobs", options.jobs, 1, kMostJobs, "How many to work on at a time, on as many threads");
-  command.Flag("--unbuffered", options.unbuffered, "Write each result as soon as it is there");
+  command.Integer("--jobs", options.jobs, 1, kMostJobs, "Number of threads that work");
+  command.Flag("--unbuffered", options.unbuffered, "Write each result as soon as it is ready");
 }
 
 std::size_t WorkInBulk(const BulkOptions& options, const std::function<NameResult(std::string name)>& work) {

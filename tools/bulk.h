@@ -10,31 +10,31 @@
 
 namespace kavrix::tools {
 
-// What comes of a name.
+// The result of the work on one name.
 struct NameResult {
   std::string text;  // for standard output
   bool failed = false;
-  std::string problem;  // for standard error, less the place; empty: nothing to say
+  std::string problem;  // for standard error, without the name's place; empty when there is none
 };
 
-// What `work` returns, or what it throws as the problem of a failed name.
+// Calls `work` and returns its text; an exception makes a failed name with its message as the problem.
 NameResult ResultOf(const std::function<std::string()>& work);
 
 struct BulkOptions {
-  std::string what = "name";       // what is counted in front of problems
-  std::vector<std::string> names;  // without any, those of standard input
+  std::string what = "name";       // the word before the number of an input in a problem
+  std::vector<std::string> names;  // empty: read them from standard input
   bool null_delimited = false;     // names on standard input end in NUL, not newline
-  int jobs = 1;                    // how many threads work
-  bool unbuffered = false;         // write each result as soon as it is there; always so on a terminal
+  int jobs = 1;                    // number of threads
+  bool unbuffered = false;         // write each result as soon as it is ready, as on a terminal
 };
 
 // Adds --jobs and --unbuffered to a command.
 void AddBulkOptions(Command& command, BulkOptions& options);
 
-// Works on many names, `jobs` at a time, and writes the results to standard output, problems to standard
-// error, in the order of the names. Long runs show their progress where standard error is a terminal that has
-// no other use. `work` is called from several threads at once. Returns how many names failed. Throws
-// StreamError and what `work` throws, with all that came before written.
+// Works on many names, on `jobs` threads, and writes results to standard output and problems to standard
+// error, in the order of the names. A long run shows its progress if standard error is a terminal and neither
+// results nor typed names use it. `work` is called from several threads at once. Returns how many names
+// failed. Throws StreamError and what `work` throws, after everything before it is written.
 std::size_t WorkInBulk(const BulkOptions& options, const std::function<NameResult(std::string name)>& work);
 
 }  // namespace kavrix::tools

@@ -28,7 +28,7 @@ struct DecodeOptions {
   bool fields = false;
 };
 
-// {"kind": ..., "fields": ...}, as "encode" reads it. Throws for a name that has no such form.
+// Returns {"kind": ..., "fields": ...}, as "encode" reads it. Throws for a name that has no such form.
 std::string FieldsLine(const std::string& name, EntryPoint entry_point) {
   const std::optional<BubbleKind> kind = FindBubbleKind(name);
   const bool is_marker_name = entry_point == EntryPoint::kMarker;
@@ -70,25 +70,24 @@ int Run(const DecodeOptions& options) {
 CommandDescription DecodeCommand() {
   const auto list_options = [](Command& command) -> std::function<int()> {
     const auto options = std::make_shared<DecodeOptions>();
-
     command.Arguments("NAME", options->bulk.names,
-                      "Resource names; without any, one a line from standard input");
+                      "Resource names; without any, read one a line from standard input");
     AddFormatOption(command, options->format, {"text", "json"});
-    command.Text("--config", options->config_path, "Configuration file; without it, the built-in default");
+    command.Text("--config", options->config_path, "Configuration file instead of the built-in one");
     command.Text("--prefix", options->prefix, "Prefix of the names instead of kavrix://resource/");
     command.Text("--context-name", options->context_name, "Context name in the log records");
     command.Flag("--marker", options->marker, "The names are marker names, not bubble names");
     AddBulkOptions(command, options->bulk);
     command.Flag("--null", options->bulk.null_delimited, "Names on standard input end in NUL, not newline");
-    command.Flag("--fields", options->fields, "Print what the names carry, in the form that encode reads");
-    command.Flag("--all", options->all_members, "In text, show members that hold their defaults too");
+    command.Flag("--fields", options->fields, "Print the fields of each name as JSON that encode reads");
+    command.Flag("--all", options->all_members, "In text format, also show members that hold their defaults");
     command.Footer(
-        "Exit status: 0 every name decoded, 1 some name failed (no marker, a payload that does not\n"
-        "parse, an exception), 2 usage or input/output trouble. A failed name never stops the others.\n"
-        "A name that begins with a dash goes behind \"--\".");
+        "Exit status: 0 every name decoded; 1 a name failed (no marker, a payload that does not parse,\n"
+        "an exception); 2 usage, input or output error. A failed name does not stop the others.\n"
+        "Put \"--\" before a name that begins with a dash.");
     return [options] { return Run(*options); };
   };
-  return {"decode", "Decode resource names and show all that comes of them", list_options};
+  return {"decode", "Decode resource names; show descriptors, styles and log records", list_options};
 }
 
 }  // namespace kavrix::tools

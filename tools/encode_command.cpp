@@ -15,7 +15,7 @@ namespace kavrix::tools {
 namespace {
 
 struct EncodeOptions {
-  BulkOptions bulk;  // the names are the fields
+  BulkOptions bulk;  // its names are the FIELDS arguments
   std::optional<std::string> kind;
   std::optional<std::string> prefix;
   bool null_delimited = false;
@@ -37,7 +37,7 @@ std::string EncodeKind(const std::string& kind_name, const Json::Value& fields) 
   return info->codec.encode_fields(fields);
 }
 
-// {"kind": "etaBubble", "fields": {...}}
+// Encodes a line such as {"kind": "etaBubble", "fields": {...}}.
 std::string EncodeLine(const std::string& line) {
   const Json::Value bubble = ParseJson(line);
   const Json::Value* const kind = JsonUtil::Find(bubble, "kind");
@@ -50,7 +50,7 @@ std::string EncodeLine(const std::string& line) {
   return EncodeKind(std::string(*kind_name), *fields);
 }
 
-// The name with its end.
+// Returns the name with `end` after it.
 std::string Ended(const std::string& name, char end) {
   if (name.find(end) != std::string::npos) {
     throw std::runtime_error("the name holds a newline, which would end it here; --null ends names in NUL");
@@ -79,23 +79,22 @@ int Run(const EncodeOptions& options) {
 CommandDescription EncodeCommand() {
   const auto list_options = [](Command& command) -> std::function<int()> {
     const auto options = std::make_shared<EncodeOptions>();
-
-    command.Arguments(
-        "FIELDS", options->bulk.names,
-        "JSON objects of fields, with --kind; without any, one {\"kind\": ..., \"fields\": ...} a line "
-        "from standard input");
-    command.Text("--kind", options->kind, "The kind of all bubbles; lines of input are then fields alone");
+    command.Arguments("FIELDS", options->bulk.names,
+                      "JSON objects of fields, with --kind; without any, read lines "
+                      "{\"kind\": ..., \"fields\": ...} from standard input");
+    command.Text("--kind", options->kind,
+                 "The kind of all bubbles; each line of input is then only its fields");
     command.Text("--prefix", options->prefix, "Prefix of the names instead of kavrix://resource/");
     command.Flag("--null", options->null_delimited, "End names in NUL, not newline");
     AddBulkOptions(command, options->bulk);
     command.Footer(
-        "\"kavrix-resource kinds\" shows the fields of each kind. What a name could not carry unchanged is "
-        "refused with\n"
-        "the line, the field and the character; the other lines go on.\n"
-        "Exit status: 0 every bubble encoded, 1 some could not be, 2 usage or input/output trouble.");
+        "\"kavrix-resource kinds\" shows the fields of each kind. A value that would not decode unchanged is "
+        "an\n"
+        "error that names the line, the field and the character; the other lines are still encoded.\n"
+        "Exit status: 0 every bubble encoded; 1 a bubble failed; 2 usage, input or output error.");
     return [options] { return Run(*options); };
   };
-  return {"encode", "Build resource names from what they shall carry", list_options};
+  return {"encode", "Build resource names from JSON fields", list_options};
 }
 
 }  // namespace kavrix::tools

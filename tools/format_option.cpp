@@ -8,7 +8,8 @@ bool ToTerminal() { return isatty(STDOUT_FILENO) != 0; }
 
 void AddFormatOption(Command& command, std::string& format, const std::vector<std::string>& formats) {
   format = ToTerminal() ? "text" : "json";
-  command.Choice("--format", format, formats, "text (on a terminal) or json, one object a line (when piped)");
+  command.Choice("--format", format, formats,
+                 "Output format; by default text on a terminal, else json, one object a line");
 }
 
 }  // namespace kavrix::tools

@@ -8,10 +8,10 @@
 
 namespace kavrix::tools {
 
-// Whether standard output goes to a person.
+// Returns whether standard output is a terminal.
 bool ToTerminal();
 
-// Adds --format to a command, with "text" on a terminal and "json" elsewhere unless the user says otherwise.
+// Adds --format to a command. Its default is "text" on a terminal and "json" elsewhere.
 void AddFormatOption(Command& command, std::string& format, const std::vector<std::string>& formats);
 
 }  // namespace kavrix::tools

@@ -32,7 +32,7 @@ std::vector<Icon> AllIcons() {
   return icons;
 }
 
-// The number that the whole text is, in decimal or with "0x" in hexadecimal.
+// Reads the whole text as a decimal number or, after "0x", a hexadecimal one.
 std::optional<std::uint32_t> ToId(std::string_view text) {
   const bool is_hex = text.substr(0, 2) == "0x" || text.substr(0, 2) == "0X";
   if (is_hex) text.remove_prefix(2);
@@ -105,13 +105,12 @@ int Run(const IconsOptions& options) {
 CommandDescription IconsCommand() {
   const auto list_options = [](Command& command) -> std::function<int()> {
     const auto options = std::make_shared<IconsOptions>();
-
     command.Arguments("QUERY", options->queries,
-                      "Ids (65537, 0x10001) or parts of descriptions; without any, all icons");
+                      "Ids (65537, 0x10001) or parts of descriptions; without any, show all icons");
     AddFormatOption(command, options->format, {"text", "json"});
     return [options] { return Run(*options); };
   };
-  return {"icons", "Show the catalogue of built-in icons, day and night", list_options};
+  return {"icons", "Show the built-in icons, each by day and by night", list_options};
 }
 
 }  // namespace kavrix::tools

@@ -19,7 +19,7 @@
 namespace kavrix::tools {
 namespace {
 
-// One kind with everything that is told about it.
+// One kind with everything that the command shows of it.
 struct Kind {
   const BubbleKindInfo& info;
   std::vector<KeyInfo> keys;
@@ -151,7 +151,7 @@ int Run(const KindsOptions& options) {
   for (const std::string& name : options.names) {
     const auto is_called_so = [&](const Kind& kind) { return kind.IsCalled(name); };
     if (std::none_of(kinds.begin(), kinds.end(), is_called_so)) {
-      throw UsageError("no kind is called \"" + name + "\"; \"kinds\" alone lists them all");
+      throw UsageError("no kind is called \"" + name + "\"; \"kinds\" without a name lists all");
     }
   }
   for (const Kind& kind : kinds) {
@@ -171,13 +171,12 @@ int Run(const KindsOptions& options) {
 CommandDescription KindsCommand() {
   const auto list_options = [](Command& command) -> std::function<int()> {
     const auto options = std::make_shared<KindsOptions>();
-
     command.Arguments("KIND", options->names,
-                      "Kinds such as etaBubble, or marker for marker names; without any, all");
+                      "Kinds, such as etaBubble, or \"marker\" for marker names; without any, show all");
     AddFormatOption(command, options->format, {"text", "json", "markdown"});
     return [options] { return Run(*options); };
   };
-  return {"kinds", "Show what names of each kind look like and carry", list_options};
+  return {"kinds", "Show the grammar, the keys and a sample of each kind", list_options};
 }
 
 }  // namespace kavrix::tools
