@@ -7,7 +7,7 @@
 
 namespace kavrix::bench {
 
-// One thing to measure. `make` does what is not to be measured and returns what is.
+// One thing to measure. `make` does the preparation, which is not measured, and returns the work that is.
 struct Case {
   std::string id;  // "group/what"
   std::function<std::function<void()>()> make;
@@ -17,7 +17,7 @@ struct Case {
 // one and of two million bytes.
 const std::vector<Case>& Cases();
 
-// Where Cases() has them from.
+// Each adds a part of Cases().
 void AddDecodeCases(std::vector<Case>& cases);
 void AddPeerCases(std::vector<Case>& cases);
 void AddStageCases(std::vector<Case>& cases);

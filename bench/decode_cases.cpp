@@ -1,4 +1,4 @@
-// Whole decodes: of each kind, of growing names, of names made to be slow.
+// Measures whole decodes: of each kind, of names of growing length, and of names made to be slow.
 
 #include <json/reader.h>
 
@@ -38,7 +38,7 @@ Run DecodeMarker(const std::string& name) {
   };
 }
 
-// The first sample name of a kind.
+// Returns the first sample name of a kind.
 std::string SampleName(const std::string& stem) {
   std::ifstream file(KAVRIX_SAMPLES_DIR "/" + stem + ".txt");
   std::string name;
@@ -80,7 +80,7 @@ void AddKinds(std::vector<Case>& cases) {
                    [] { return DecodeMarker<plain::PlainTransform>(SampleName("marker_name")); }});
 }
 
-// A route-explain payload with so many secondary lines of 8 bytes that it has about `size` bytes.
+// Makes a route-explain payload of about `size` bytes, with as many secondary lines of 8 bytes as that takes.
 std::string PayloadOfSize(std::size_t size) {
   std::string payload = R"({"scene":1,"mode":0,"uid":"r-17","second_content":["line")";
   while (payload.size() + 2 < size) payload += R"(,"8 bytes.")";
@@ -104,7 +104,7 @@ void AddLengths(std::vector<Case>& cases) {
   }
 }
 
-// What a name of a size is made of: `begin`, `middle` again and again, `end`.
+// The parts of a long name: `begin`, many copies of `middle`, `end`.
 struct LongName {
   const char* what;
   const char* begin;

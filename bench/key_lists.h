@@ -1,8 +1,8 @@
 #ifndef KAVRIX_BENCH_KEY_LISTS_H_
 #define KAVRIX_BENCH_KEY_LISTS_H_
 
-// The keys of P1, P2 and P3 in the library's order, for any reader that knows the verbs of its JsonKeyReader:
-// every JSON reader in the comparison reads the same keys into the same descriptors.
+// The keys of P1, P2 and P3 in the library's order, for any reader with the verbs of JsonKeyReader: all JSON
+// readers in the comparison read the same keys into the same descriptors.
 namespace kavrix::bench {
 
 struct TrafficKeys {

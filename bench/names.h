@@ -8,7 +8,7 @@
 #include "context/kavrix_context.h"
 #include "map_resource/map_resource_manager.h"
 
-// What all measurements decode.
+// The names that the measurements decode.
 namespace kavrix::bench {
 
 struct Name {

@@ -20,7 +20,7 @@
 namespace kavrix::bench {
 namespace {
 
-// The rules that all readers share; `Reader` gives what its JSON reader found under a key.
+// Applies the rules that all readers share; `Reader` finds the value of a key.
 template <class Reader>
 class PeerKeyReader : public Reader {
  public:
@@ -102,7 +102,7 @@ Case DecodeCase(const char* group, const Name& name) {
           }};
 }
 
-// One way to do the job on one payload: `Read` makes the descriptor of the payload.
+// Adds each way to parse one payload and read its keys into a descriptor, and the bare parse.
 template <class Descriptor, class KeyList>
 void AddJsonCases(std::vector<Case>& cases, const Name& name, KeyList key_list) {
   const auto add = [&](const char* group, auto parse_and_read) {

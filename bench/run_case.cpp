@@ -1,5 +1,5 @@
-// Runs one case a number of times, for callgrind to count: the difference of two runs is what the repetitions
-// between them cost. Without arguments it lists the cases.
+// Runs one case a number of times, for callgrind to count: two runs differ by the cost of the additional
+// repetitions. Without arguments it lists the cases.
 //
 //   kavrix-run-case [CASE REPETITIONS]
 

@@ -1,4 +1,4 @@
-// The stages of a decode one by one.
+// Measures the stages of a decode one by one.
 
 #include <memory>
 
@@ -40,7 +40,7 @@ void AddFinding(std::vector<Case>& cases) {
   add("2 KB of Bubble", Repeated("Bubble", 2048, last));
 }
 
-// Both ways to a payload: cut on both ends; cut at the front and split.
+// Measures both ways to a payload: cut at both ends; cut at the front and split.
 void AddEnvelope(std::vector<Case>& cases) {
   cases.push_back({"envelope/P1", [] {
                      return [] { Use(StripPrefixAndMarker(P1().name, MarkerOf(BubbleKind::kTraffic))); };
@@ -74,7 +74,7 @@ void AddParseAndKeys(std::vector<Case>& cases, const Name& name, KeyList key_lis
                    }});
 }
 
-// What a log statement needs of the function around it.
+// Gives a log statement the member that it needs.
 struct LogStatement {
   std::shared_ptr<KavrixContext> context_ = MakeContext();
   void Write() const {

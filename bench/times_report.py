@@ -1,4 +1,4 @@
-"""Turns the times of scripts/bench into the table of ratios of docs/performance.md.
+"""Turns the times of scripts/bench into the tables of times of docs/performance.md.
 
 times_report.py BUILD_FOLDER DOCS_FOLDER
 """
@@ -57,6 +57,7 @@ def linear(times):
 
 
 def threads(path):
+    """The median and the best of each column; the last row divides the two cells above it, not single rounds."""
     with open(path, encoding="utf-8") as file:
         rounds = [[int(rate) for rate in line.split("\t")] for line in file]
     one, two = [[round_[i] for round_ in rounds] for i in (0, 1)]

@@ -1,4 +1,4 @@
-// Configuration files: read as a whole, or refused with a ConfigError and nothing else.
+// Fuzzes configuration files: each is read whole, or refused with a ConfigError and nothing else.
 
 #include "config/bubble_layer_config_file.h"
 #include "fuzz/fuzzing.h"
@@ -6,7 +6,7 @@
 namespace kavrix::fuzz {
 namespace {
 
-// All that a file gave, as text; what it was refused for when it was.
+// Prints all that a file gives, or the error that refuses it.
 std::string Load(std::string_view text) {
   const auto heap_text = std::make_unique<const std::string>(text);
   try {

@@ -11,7 +11,7 @@
 
 namespace kavrix::fuzz {
 
-// All that came of one name.
+// The result of decoding one name.
 struct Outcome {
   std::shared_ptr<BubbleDrawDescriptor> out;
   std::vector<test::SeenRecord> records;
@@ -31,7 +31,7 @@ inline std::shared_ptr<KavrixContext> MakeContext() {
   return context;
 }
 
-// Decodes with every record on. `name` is the one allocation that holds its bytes.
+// Decodes with all log records on.
 inline Outcome Decode(const std::string& name, EntryPoint entry_point,
                       const std::shared_ptr<BubbleDrawDescriptor>& before) {
   static test::RecordCollector collector;
@@ -44,8 +44,8 @@ inline Outcome Decode(const std::string& name, EntryPoint entry_point,
     } else {
       transform.GetMarkerDrawDescriptor(name, outcome.out);
     }
-  } catch (
-      const std::out_of_range& exception) {  // a name shorter than the prefix; nothing else may be thrown
+  } catch (const std::out_of_range& exception) {
+    // The name is shorter than the prefix. Nothing else may be thrown.
     outcome.exception = exception.what();
   }
   outcome.records = collector.records();
@@ -69,7 +69,7 @@ inline Outcome DecodePlainly(const std::string& name, EntryPoint entry_point,
   return outcome;
 }
 
-// Recognises the kind as plainly as can be.
+// Finds the kind by one plain search for each marker.
 inline std::optional<BubbleKind> FindBubbleKindPlainly(std::string_view name) {
   for (const BubbleKind kind : kBubbleKinds) {
     if (name.find(MarkerOf(kind)) != std::string_view::npos) return kind;
@@ -77,10 +77,10 @@ inline std::optional<BubbleKind> FindBubbleKindPlainly(std::string_view name) {
   return std::nullopt;
 }
 
-// What holds for every name.
+// Checks what must hold for every name.
 inline void CheckName(std::string_view text, EntryPoint entry_point) {
-  const auto name =
-      std::make_unique<const std::string>(text);  // a short one lies on the heap with its object
+  // On the heap, where AddressSanitizer also sees reads past the end of a short string.
+  const auto name = std::make_unique<const std::string>(text);
   const auto before = std::make_shared<BubbleDrawDescriptor>();
   const Outcome first = Decode(*name, entry_point, before);
   const Outcome second = Decode(*name, entry_point, before);

@@ -1,4 +1,4 @@
-// Prints the vocabulary as a libFuzzer dictionary; with "markers" the markers alone, one a line, in their
+// Prints the vocabulary as a libFuzzer dictionary; with "markers", only the markers, one a line, in their
 // order.
 
 #include <iostream>

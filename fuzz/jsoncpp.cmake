@@ -1,5 +1,5 @@
-# Gives Kavrix::JsonCpp from its sources in KAVRIX_JSONCPP_SOURCE_DIR, compiled with the flags of this build: the
-# fuzzers see what a payload reaches in the parser, and its memory is checked like ours.
+# Builds Kavrix::JsonCpp from its sources in KAVRIX_JSONCPP_SOURCE_DIR, with the flags of this build: the fuzzers see
+# which code of the parser a payload reaches, and the sanitizers check its memory too.
 file(GLOB jsoncpp_sources ${KAVRIX_JSONCPP_SOURCE_DIR}/src/lib_json/*.cpp)
 add_library(jsoncpp_from_source STATIC ${jsoncpp_sources})
 target_include_directories(jsoncpp_from_source SYSTEM PUBLIC ${KAVRIX_JSONCPP_SOURCE_DIR}/include)

@@ -1,5 +1,5 @@
-// The tool's reader of names: the first byte of the input picks delimiter and buffer size, the rest is the
-// stream.
+// Fuzzes the tool's reader of names: the first byte of the input picks the delimiter and the buffer size, the
+// rest is the stream.
 
 #include <sys/mman.h>
 #include <unistd.h>

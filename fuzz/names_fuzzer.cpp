@@ -1,4 +1,4 @@
-// Whole names, through both entry points.
+// Fuzzes whole names, through both entry points.
 
 #include "fuzz/decoding.h"
 

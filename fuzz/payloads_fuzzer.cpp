@@ -1,4 +1,4 @@
-// Payloads: the first byte of the input picks the marker, the rest stands between prefix and marker.
+// Fuzzes payloads: the first byte of the input picks the marker, the rest comes between prefix and marker.
 
 #include "fuzz/decoding.h"
 #include "fuzz/vocabulary.h"
@@ -16,8 +16,8 @@ void CheckParse(std::string_view payload) {
   const std::string longer = std::string(payload) + "\"}]*/";
   const bool parses_inside =
       JsonUtil::ParseObject(std::string_view(longer).substr(0, payload.size()), inside);
-  Require(parses == parses_inside, "a payload parses whatever stands behind it");
-  if (parses) Require(alone == inside, "what stands behind a payload is not read");
+  Require(parses == parses_inside, "what follows a payload does not change whether it parses");
+  if (parses) Require(alone == inside, "what follows a payload is not read");
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-// The encoder: what a name carries is encoded again, and what the input carries as JSON fields. The first
-// byte picks the kind; the rest stands between prefix and marker, or is the fields.
+// Fuzzes the encoder: encodes the fields that a name carries, and the input itself as JSON fields. The first
+// byte picks the kind; the rest is both the payload of a name and the fields.
 
 #include "fuzz/decoding.h"
 #include "fuzz/vocabulary.h"
@@ -37,7 +37,7 @@ class RoundTrip {
     const std::optional<std::string> read = ReadFields(*name);
     Require(read.has_value(), "an encoded name can be read");
     Require(test::CompleteFields(info_, Parsed(*read)) == test::CompleteFields(info_, fields),
-            "an encoded name carries what it was made of");
+            "an encoded name carries the fields it was built from");
     Require(Encode(Parsed(*read)) == name, "equal fields give equal names");
   }
 
@@ -48,7 +48,7 @@ class RoundTrip {
     return !kind || &InfoOf(*kind) != &info_;
   }
 
-  // nullopt: the name does not parse, or holds a text that is not UTF-8.
+  // Returns nullopt when the name does not parse or holds a string that is not UTF-8.
   std::optional<std::string> ReadFields(const std::string& name) const {
     try {
       return info_.codec.read_fields(name);
@@ -64,7 +64,7 @@ class RoundTrip {
     return value;
   }
 
-  // nullopt: refused.
+  // Returns nullopt when the encoder refuses the fields.
   std::optional<std::string> Encode(const Json::Value& fields) const {
     try {
       return info_.codec.encode_fields(fields);

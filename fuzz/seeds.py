@@ -18,7 +18,7 @@ def golden_names(root):
 
 
 def payload_inputs(names, markers):
-    """The payloads fuzzer wants the number of the marker as a byte, then what stands between prefix and marker."""
+    """Inputs of the payloads fuzzer: the number of the marker as a byte, then the payload."""
     for name in names:
         for number, marker in enumerate(markers):
             if name.startswith(PREFIX) and name.endswith(marker):

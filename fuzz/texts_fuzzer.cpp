@@ -1,4 +1,4 @@
-// The readers of text fields, each against a plain way to the same.
+// Compares the readers of text fields with simpler code, or checks their results.
 
 #include "fuzz/fuzzing.h"
 #include "map_resource/resource_name.h"
@@ -53,7 +53,7 @@ void CheckUtf8(std::string_view text) {
 void CheckJsonObject(std::string_view text) {
   const std::string_view object = FindJsonObject(text);
   if (object.empty()) return;
-  Require(object.front() == '{' && object.back() == '}', "an object stands between braces");
+  Require(object.front() == '{' && object.back() == '}', "an object is enclosed in braces");
   Require(object.data() >= text.data() && object.data() + object.size() <= text.data() + text.size(),
           "an object is a piece of the name");
 }

@@ -6,7 +6,7 @@
 
 namespace kavrix::fuzz {
 
-// What resource names and configurations are made of.
+// The pieces of resource names and configurations.
 struct Vocabulary {
   std::vector<std::string> keys;        // of all kinds and of the configuration file
   std::vector<std::string> markers;     // of the kinds in their order, then that of marker names
