@@ -8,7 +8,7 @@
 
 #include "tests/support/tool.h"
 
-// README.md quotes the programs of examples/ and what they print, indented by four blanks.
+// README.md quotes the programs of examples/ and their output, indented by four blanks.
 namespace kavrix::test {
 namespace {
 
@@ -28,7 +28,7 @@ std::string Indented(const std::string& text) {
   return indented;
 }
 
-// A record tells the line of the library's source that wrote it, which changes with the source.
+// Blanks the source line in each log record, because it changes with the source.
 std::string WithoutSourceLines(const std::string& text) {
   return std::regex_replace(text, std::regex(R"(\.cpp:[0-9]+)"), ".cpp:N");
 }

@@ -4,7 +4,7 @@
 
 #include "tests/support/golden.h"
 
-// --update-goldens rewrites the golden files from what the tool prints now.
+// --update-goldens rewrites the golden files from the tool's current output.
 int main(int argc, char** argv) {
   ::testing::InitGoogleMock(&argc, argv);
   for (int i = 1; i < argc; ++i) {

@@ -70,7 +70,7 @@ TEST(BubbleLayerConfigContainerTest, VisitReachesEachMemberUnderItsOwnName) {
   EXPECT_EQ(config.traffic_scene_style.name, "traffic_scene_style");
 }
 
-// Known without a table that is made at start and destroyed at exit.
+// Works at compile time: no table is built at start or destroyed at exit.
 static_assert(IsFloatValue("eta_style", 2) && IsFloatValue("eta_style", 8));
 static_assert(!IsFloatValue("eta_style", 3) && !IsFloatValue("eta_style", 0));
 static_assert(!IsFloatValue("turn_style", 2) && !IsFloatValue("", 3));

@@ -5,14 +5,14 @@
 
 #include "config/bubble_layer_config_file.h"
 
-// What a configuration file must not hold, and the exact words that say so.
+// Tests what a configuration file must not hold, and the exact error messages.
 namespace kavrix::test {
 namespace {
 
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
-// The message of the error, empty when there is none.
+// Returns the message of the error, empty when there is none.
 std::string ErrorOf(const std::string& json_text) {
   try {
     ParseBubbleLayerConfig(json_text);

@@ -74,7 +74,7 @@ TEST(BubbleLayerConfigFileTest, EveryRecordTakesAsManyValuesAsItHas) {
   });
 }
 
-// Which values are floats, and no others: 1 is then 0x3F800000 in the cell, elsewhere 1.
+// Lists the values that are floats. In their cells 1 is 0x3F800000, in all others 1.
 TEST(BubbleLayerConfigFileTest, EachValueIsReadAsTheFloatOrTheWordThatItIs) {
   const auto float_numbers = [](const std::string& record) -> std::vector<std::size_t> {
     if (record == "traffic_style" || record == "traffic_nav_style" || record == "traffic_scene_style") {

@@ -1,4 +1,4 @@
-// Which members the configuration's records have, of what types and in what order.
+// Tests the members of the style records, their types and their order.
 
 #include <gtest/gtest.h>
 

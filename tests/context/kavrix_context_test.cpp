@@ -10,7 +10,7 @@
 namespace kavrix::test {
 namespace {
 
-// Every record of it is named `name` and holds `word` in every value and item.
+// Makes a configuration whose records all have the name `name` and hold `word` in every value and item.
 BubbleLayerConfigContainer UniformConfig(const std::string& name, std::uint32_t word) {
   BubbleLayerConfigContainer config;
   ForEachStyleRecord(config, [&](const char*, auto& record) {
@@ -84,7 +84,7 @@ TEST(KavrixContextTest, ReplacedConfigurationDoesNotTouchEarlierCopies) {
   EXPECT_EQ(context.GetBubbleLayerConfigInLock().traffic_style.name, "b");
 }
 
-TEST(KavrixContextTest, CopyTakenWhileTheConfigurationIsExchangedIsOfOneConfigurationAlone) {
+TEST(KavrixContextTest, CopyTakenWhileTheConfigurationIsExchangedIsOfOnlyOneConfiguration) {
   KavrixContext context("ctx");
   const auto first = UniformConfig("the first name, longer than fits in place", 1);
   const auto second = UniformConfig("the second name, also longer than fits in place", 2);

@@ -25,7 +25,7 @@ constexpr char kBaseDefaults[] =
     "scene:0, content:\"\", lan:\"\", bubble_kind:0, type:0, direction:0, mode_flag:false, style_name:\"\", "
     "icon:\"\", style_word:0, style_scale:[0.000000, 0.000000], selected:false, is_force:false";
 
-// Every member is zero, false or empty, and the members of its own print behind those of the base.
+// Expects every member to be zero, false or empty, and its own members to print after those of the base.
 template <class Descriptor>
 void ExpectNew(const std::string& type_name, const std::string& own_members) {
   const Descriptor descriptor;
@@ -110,7 +110,7 @@ TEST(BubbleDrawDescriptorTest, CompanionKeepsItsOwnSceneApartFromTheBases) {
   EXPECT_EQ(base.scene, 0);
 }
 
-TEST(BubbleDrawDescriptorTest, SharedPointerToTheBaseCastsToItsOwnTypeAlone) {
+TEST(BubbleDrawDescriptorTest, SharedPointerToTheBaseCastsOnlyToItsOwnType) {
   const std::shared_ptr<BubbleDrawDescriptor> bubble = std::make_shared<TurnArrowBubbleDrawDescriptor>();
   const auto turn = std::dynamic_pointer_cast<TurnArrowBubbleDrawDescriptor>(bubble);
   EXPECT_EQ(turn, bubble);

@@ -1,4 +1,4 @@
-// Which members the descriptors have, of what types and in what order.
+// Tests the members of the descriptors, their types and their order.
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 namespace kavrix::test {
 namespace {
 
-// What a derived type adds to the base's members.
+// Tests the members that a derived type adds to those of the base.
 template <class Descriptor, class... Members>
 void ExpectOwn(Members Descriptor::*... members) {
   static_assert(std::is_base_of_v<BubbleDrawDescriptor, Descriptor>);

@@ -1,4 +1,4 @@
-// The text of a descriptor: one line, whatever its members and its stream hold.
+// A descriptor prints on one line, for all values of its members and all states of its stream.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -67,7 +67,7 @@ TrafficDrawDescriptor Traffic() {
   return traffic;
 }
 
-// A locale under which numbers and flags look quite different.
+// Writes numbers and flags differently from the classic locale.
 class OddNumbers : public std::numpunct<char> {
   char do_decimal_point() const override { return ','; }
   char do_thousands_sep() const override { return '.'; }
@@ -126,7 +126,7 @@ TEST(DescriptorTextTest, LeavesTheStateOfTheStreamAsItWas) {
   EXPECT_TRUE(stream.good());
 }
 
-// What a stream of the classic locale prints for a float.
+// Formats a float as a stream of the classic locale does.
 std::string Streamed(float value, std::ios_base::fmtflags notation, int precision) {
   std::ostringstream stream;
   stream.imbue(std::locale::classic());

@@ -23,7 +23,7 @@ FlatMember Flag(const char* path, bool value) { return {path, value}; }
 FlatMember Real(const char* path, float value) { return {path, value}; }
 FlatMember Text(const char* path, const char* value) { return {path, std::string(value)}; }
 
-// What a type adds behind the 14 values of the base.
+// Returns the members that a type adds after the 14 values of the base.
 std::vector<FlatMember> OwnMembers(const BubbleDrawDescriptor& descriptor) {
   std::vector<FlatMember> members = FlatMembers(descriptor);
   members.erase(members.begin(), members.begin() + 14);
@@ -77,7 +77,7 @@ TEST(FlatMembersTest, PlainValuesOfAListStandUnderTheirIndex) {
                           Integer("bubble_type", 0)));
 }
 
-TEST(FlatMembersTest, MembersBehindAListOfRecordsStandUnderTheirOwnNames) {
+TEST(FlatMembersTest, MembersAfterAListOfRecordsHaveTheirOwnNames) {
   MultiLightCountdownTimerDrawDescriptor lights;
   lights.light_descriptors.resize(1);
   EXPECT_THAT(
@@ -89,7 +89,7 @@ TEST(FlatMembersTest, MembersBehindAListOfRecordsStandUnderTheirOwnNames) {
                   Integer("light_descriptors[0].total_time", 0)));
 }
 
-// What a descriptor holds as style words, by path.
+// Returns the style words of a descriptor, by path.
 std::vector<std::string> WordsOf(const BubbleDrawDescriptor& descriptor) {
   std::vector<std::string> words;
   for (const FlatMember& member : FlatMembers(descriptor)) {
@@ -120,7 +120,7 @@ TEST(FlatMembersTest, MarkerTypeIsToldFromOtherIntegers) {
   EXPECT_FALSE(IsDefault(Code("marker_type", MarkerType::Start)));
 }
 
-// A visitor that makes no difference between the integers.
+// Visits all integers alike.
 class Integers : public MemberVisitor {
  public:
   void Integer(const char* name, std::int64_t value) override { seen.emplace_back(name, value); }

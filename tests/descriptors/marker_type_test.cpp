@@ -15,7 +15,7 @@ std::string Printed(MarkerType type) {
   return stream.str();
 }
 
-// Both sides of each row are in resource names and image keys out there.
+// Names and image keys in use hold both sides of each row.
 TEST(MarkerTypeTest, EveryKindKeepsItsNumberAndItsName) {
   const char* const names[] = {
       "Poi",         "Start",  "Destination",  "ViaPoint", "Parking", "ChargingStation", "GasStation", "Toll",

@@ -11,7 +11,7 @@ namespace {
 
 class KeyCheckerTest : public ::testing::Test {
  protected:
-  // What the checker says of the member "k" of `object`; empty when it takes it.
+  // Returns the checker's message about the member "k" of `object`; empty when it accepts it.
   template <class Read>
   std::string ErrorOf(const std::string& object, Read read) {
     EXPECT_TRUE(JsonUtil::ParseObject(object, object_)) << object;

@@ -48,7 +48,7 @@ class JsonKeyReaderTest : public ::testing::Test {
   Json::Value object_;
 };
 
-TEST_F(JsonKeyReaderTest, TextIsTakenFromATextAlone) {
+TEST_F(JsonKeyReaderTest, TextIsTakenOnlyFromAString) {
   EXPECT_EQ(ReadText(R"("v")"), "v");
   EXPECT_EQ(ReadText(R"("")"), "");
   for (const char* const value : {"5", "null", "true", "[\"v\"]", "{}"})
@@ -68,7 +68,7 @@ TEST_F(JsonKeyReaderTest, AnObjectOfAnyNumberOfMembersIsReadTheSame) {
   }
 }
 
-TEST_F(JsonKeyReaderTest, IntegerIsTakenFromAnIntegerAlone) {
+TEST_F(JsonKeyReaderTest, IntegerIsTakenOnlyFromAnInteger) {
   EXPECT_EQ(ReadInteger<std::int32_t>("-5"), -5);
   for (const char* const value : {"\"5\"", "5.0", "3000000000", "true", "null", "[5]"}) {
     EXPECT_EQ(ReadInteger<std::int32_t>(value), 7) << value;

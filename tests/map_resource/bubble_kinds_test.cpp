@@ -18,7 +18,7 @@ struct ExpectedKind {
   std::optional<int> kind_code;
 };
 
-// In the order of recognition, marker names last.
+// All kinds in the order of recognition, marker names last.
 const std::vector<ExpectedKind> kExpectedKinds = {
     {".trafficBubble", 14, "TrafficDrawDescriptor", 1, 1},
     {".nameBubble", 11, "BubbleDrawDescriptor", 2, 0},

@@ -16,7 +16,7 @@ std::optional<BubbleKind> FindBySearches(const std::string& name) {
   return std::nullopt;
 }
 
-TEST(BubbleMarkersTailTest, MarkerIsFoundBehindAnyNumberOfLettersOfItsTail) {
+TEST(BubbleMarkersTailTest, MarkerIsFoundAfterAnyNumberOfLettersOfItsTail) {
   for (const std::string letter : {"B", "u", "b", "l", "e", "x", "."}) {
     std::string name;
     for (int length = 0; length < 30; ++length, name += letter) {
@@ -27,7 +27,7 @@ TEST(BubbleMarkersTailTest, MarkerIsFoundBehindAnyNumberOfLettersOfItsTail) {
   }
 }
 
-TEST(BubbleMarkersTailTest, NothingBehindTheEndOfTheNameIsRead) {
+TEST(BubbleMarkersTailTest, NothingAfterTheEndOfTheNameIsRead) {
   for (std::string before = "B"; before.size() < 10; before += 'x') {
     const std::string whole = before + ".etaBubble";
     EXPECT_EQ(FindBubbleKind(whole), BubbleKind::kEta);

@@ -12,7 +12,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-// What recognition means: a search for each marker in order.
+// Defines recognition: searches for each marker in order.
 std::optional<BubbleKind> FindBySearches(const std::string& name) {
   for (const BubbleKind kind : kBubbleKinds) {
     if (name.find(MarkerOf(kind)) != std::string::npos) return kind;
@@ -77,13 +77,13 @@ TEST(FindBubbleKindTest, NulAndOtherBytesDoNotEndTheSearch) {
   EXPECT_EQ(FindBubbleKind(".turn\0Bubble"sv), std::nullopt);
 }
 
-TEST(FindBubbleKindTest, NothingBehindTheEndOfTheViewIsRead) {
+TEST(FindBubbleKindTest, NothingAfterTheEndOfTheViewIsRead) {
   const std::string_view name = ".trafficBubble";
   EXPECT_EQ(FindBubbleKind(name.substr(0, 13)), std::nullopt);
   EXPECT_EQ(FindBubbleKind(name.substr(0, 1)), std::nullopt);
 }
 
-// Names full of dots, whole markers, cut markers, markers in the other case and payload texts.
+// Makes names full of dots, whole markers, cut markers, markers in the other case and pieces of payloads.
 class NameGenerator {
  public:
   std::string Next() {

@@ -43,7 +43,7 @@ TEST_F(CameraBubbleTest, EveryKeyFillsItsMember) {
   expected.style_name = "camera_scene_style";
   expected.plain_style_values = {WordOf(8, 14), WordOf(8, 15), WordOf(8, 16)};
   expected.mode_style_value = WordOf(8, 18);
-  EXPECT_EQ(camera, expected);  // content, bubble_kind, style_word and style_scale are left alone
+  EXPECT_EQ(camera, expected);  // content, bubble_kind, style_word and style_scale are unchanged
 }
 
 constexpr char kTwoCameras[] =
@@ -103,14 +103,14 @@ TEST_F(CameraBubbleTest, TypeAndSpeedOfAnotherTypeAreZero) {
   EXPECT_THAT(camera.cameras, ElementsAre(IsCamera(0, 0), IsCamera(0, 0), IsCamera(0, -5)));
 }
 
-TEST_F(CameraBubbleTest, SelectedIsSetByOneAlone) {
+TEST_F(CameraBubbleTest, SelectedIsSetOnlyByOne) {
   EXPECT_TRUE(DecodeCamera(R"({"is_selected_":1})").selected);
   for (const std::string value : {"0", "2", "-1", "true", "\"1\"", "1.0", "null"}) {
     EXPECT_FALSE(DecodeCamera(R"({"is_selected_":)" + value + "}").selected) << value;
   }
 }
 
-TEST_F(CameraBubbleTest, ForceIsSetByOneAlone) {
+TEST_F(CameraBubbleTest, ForceIsSetOnlyByOne) {
   EXPECT_TRUE(DecodeCamera(R"({"is_force_":1})").is_force);
   for (const std::string value : {"0", "2", "-1", "true", "\"1\"", "1.0", "null"}) {
     EXPECT_FALSE(DecodeCamera(R"({"is_force_":)" + value + "}").is_force) << value;

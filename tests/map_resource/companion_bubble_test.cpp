@@ -16,8 +16,8 @@ class CompanionBubbleTest : public DecodeTest {
     return Out<CompanionBubbleDrawDescriptor>();
   }
 
-  // What is left of a name of which nothing fits.
-  static CompanionBubbleDrawDescriptor StyleAlone() {
+  // Returns the descriptor of a name whose fields cannot be read.
+  static CompanionBubbleDrawDescriptor OnlyStyle() {
     CompanionBubbleDrawDescriptor companion;
     companion.style_name = "companion_style";
     companion.style_word = WordOf(3, 4);
@@ -31,7 +31,7 @@ constexpr char kFullPayload[] =
     R"("better":1,"scene":4,"scene_":1}@90)";
 
 TEST_F(CompanionBubbleTest, EveryKeyFillsItsMember) {
-  auto expected = StyleAlone();
+  auto expected = OnlyStyle();
   expected.is_force = true;
   expected.time = "25 min";
   expected.distance = "12 km";
@@ -64,7 +64,7 @@ TEST_F(CompanionBubbleTest, BetterTwoDoesNotSetTheFlag) {
   EXPECT_EQ(companion.style_word, WordOf(3, 2));
 }
 
-TEST_F(CompanionBubbleTest, BetterOneAloneSetsTheFlag) {
+TEST_F(CompanionBubbleTest, OnlyBetterOneSetsTheFlag) {
   EXPECT_TRUE(DecodeCompanion(R"({"better":1}@0)").better);
   EXPECT_FALSE(DecodeCompanion(R"({"better":0}@0)").better);
   EXPECT_FALSE(DecodeCompanion(R"({"better":-1}@0)").better);
@@ -121,7 +121,7 @@ TEST_F(CompanionBubbleTest, AbsentOrMistypedModeInvertsTheFlag) {
 }
 
 TEST_F(CompanionBubbleTest, KeysOfAnotherTypeKeepTheDefaults) {
-  auto expected = StyleAlone();
+  auto expected = OnlyStyle();
   expected.mode_flag = true;
   expected.style_word = WordOf(3, 2);
   EXPECT_EQ(DecodeCompanion(R"({"is_force_":[],"time":25,"distance":12.5,"fee":null,"light":{},"label":true,)"
@@ -160,7 +160,7 @@ TEST_F(CompanionBubbleTest, UnreadableTailLeavesTheDirectionAloneButNotTheKeys) 
 TEST_F(CompanionBubbleTest, BrokenJsonIsLoggedUnderTheTrafficTagWithTheWholeNameAndTheStyleIsStillSet) {
   for (const std::string json : {"", "{", "[1]", "5", "null", "\"{}\"", R"({"label":"fast",})"}) {
     const auto& companion = DecodeCompanion(json + "@90");
-    EXPECT_EQ(companion, StyleAlone()) << json;  // the direction too is left alone
+    EXPECT_EQ(companion, OnlyStyle()) << json;  // the direction too is left alone
     EXPECT_THAT(records(),
                 ElementsAre(Request(), Failure(kTrafficTag, kFunction, "parse json failed: " + name_),
                             Routine(kTag, kFunction, Printed(companion))));
@@ -172,16 +172,16 @@ TEST_F(CompanionBubbleTest, BrokenJsonIsLoggedUnderTheTrafficTagWithTheWholeName
 
 TEST_F(CompanionBubbleTest, JsonNestedTooDeepIsBrokenJson) {
   const auto& companion = DecodeCompanion(R"({"label":)" + std::string(2000, '[') + "@90");
-  EXPECT_EQ(companion, StyleAlone());
+  EXPECT_EQ(companion, OnlyStyle());
   EXPECT_THAT(records(),
               ElementsAre(Request(), Failure(kTrafficTag, kFunction, "parse json failed: " + name_),
                           Routine(kTag, kFunction, Printed(companion))));
 }
 
-TEST_F(CompanionBubbleTest, AnyOtherNumberOfAtSignsSetsTheStyleAloneAndIsNoFailure) {
+TEST_F(CompanionBubbleTest, AnyOtherNumberOfAtSignsSetsOnlyTheStyleAndIsNoFailure) {
   for (const std::string payload : {"", R"({"label":"fast"})", R"({"label":"f@st"}@90)", "{}@9@0", "{"}) {
     const auto& companion = DecodeCompanion(payload);
-    EXPECT_EQ(companion, StyleAlone()) << payload;
+    EXPECT_EQ(companion, OnlyStyle()) << payload;
     EXPECT_THAT(records(), ElementsAre(Request(), Routine(kTag, kFunction, Printed(companion)))) << payload;
     EXPECT_EQ(snapshots(), 1) << payload;
   }

@@ -9,7 +9,7 @@
 namespace kavrix::test {
 namespace {
 
-// What each near-miss is refused with.
+// Lists near-misses and the error of each.
 template <class Encode>
 EncodeError ErrorOf(Encode encode) {
   try {

@@ -1,7 +1,7 @@
 #include "map_resource/bubble_kinds.h"
 #include "tests/support/decode_test.h"
 
-// What all kinds of one way to the payload have in common, and how styles are chosen.
+// Tests what kinds with the same way to their payload have in common, and how styles are chosen.
 namespace kavrix::test {
 namespace {
 
@@ -22,8 +22,8 @@ class EnvelopeTest : public DecodeTest {
     Decode(payload + std::string(info.marker) + after);
   }
 
-  // The last decode took its payload for broken. A turn bubble writes no record then, but its flag, which an
-  // object without "mode" inverts, is as constructed.
+  // Expects that the last decode found its payload broken. A turn bubble writes no failure record, but its
+  // mode flag, which a readable object without "mode" inverts, is as constructed.
   void ExpectFailed(const BubbleKindInfo& info, const std::string& payload) const {
     EXPECT_FALSE(Base().mode_flag) << payload << info.marker;
     if (info.marker == ".turnBubble") {
@@ -37,7 +37,7 @@ class EnvelopeTest : public DecodeTest {
     EXPECT_EQ(records()[1].message, "[Kavrix][ctx]parse json failed: " + payload) << info.marker;
   }
 
-  // The last decode read an object without "mode".
+  // Expects that the last decode read an object without "mode".
   void ExpectRead(const BubbleKindInfo& info) const {
     EXPECT_TRUE(Base().mode_flag) << info.marker;
     for (const SeenRecord& record : records()) {

@@ -23,8 +23,8 @@ class EtaBubbleTest : public DecodeTest {
 
   SeenRecord Opening() const { return Routine(kTag, kFunction, "resource_name:" + name_); }
 
-  // What is left of a name of which nothing fits.
-  static DestNameEtaDrawDescriptor StyleAlone() {
+  // Returns the descriptor of a name whose fields cannot be read.
+  static DestNameEtaDrawDescriptor OnlyStyle() {
     DestNameEtaDrawDescriptor eta;
     eta.style_name = "eta_style";
     eta.style_scale = {FloatOf(5, 2), FloatOf(5, 8)};
@@ -143,7 +143,7 @@ TEST_F(EtaBubbleTest, ThirdFieldIsNotRead) {
   }
 }
 
-TEST_F(EtaBubbleTest, ModeZeroAloneSetsTheFlag) {
+TEST_F(EtaBubbleTest, OnlyModeZeroSetsTheFlag) {
   EXPECT_TRUE(DecodeEta("Home_0_x_0@3").mode_flag);
   for (const std::string mode : {"1", "2", "-1"}) {
     EXPECT_FALSE(DecodeEta("Home_" + mode + "_x_0@3").mode_flag) << mode;
@@ -169,16 +169,16 @@ TEST_F(EtaBubbleTest, SceneThatIsNoNumberStaysZeroAndTheModeIsRead) {
 }
 
 TEST_F(EtaBubbleTest, ThreeOrFiveFieldsLoseTheHeadButNotTheDirection) {
-  auto expected = StyleAlone();
+  auto expected = OnlyStyle();
   expected.direction = 3;
   for (const std::string head : {"", "Home|12 min", "Home_0_2", "My_Home|12 min_0_x_2", "Home_0_x_2_"}) {
     EXPECT_EQ(DecodeEta(head + "@3"), expected) << head;
   }
 }
 
-TEST_F(EtaBubbleTest, AnyOtherNumberOfAtSignsSetsTheStyleAlone) {
+TEST_F(EtaBubbleTest, AnyOtherNumberOfAtSignsSetsOnlyTheStyle) {
   for (const std::string fields : {"", "Home|12 min_0_x_2", "Home@x_0_x_2@3", "a|b"}) {
-    EXPECT_EQ(DecodeEta(fields), StyleAlone()) << fields;
+    EXPECT_EQ(DecodeEta(fields), OnlyStyle()) << fields;
   }
 }
 

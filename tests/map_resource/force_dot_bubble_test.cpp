@@ -19,7 +19,7 @@ class ForceDotBubbleTest : public DecodeTest {
     bare.bubble_kind = 27;
     return bare;
   }
-  // What every good payload gives.
+  // Returns the descriptor with the members that every readable payload sets.
   static BubbleDrawDescriptor Forced() {
     BubbleDrawDescriptor forced = Bare();
     forced.content = "ForceDot";
@@ -60,7 +60,7 @@ TEST_F(ForceDotBubbleTest, TypeIsNarrowedTo16Bits) {
   EXPECT_EQ(DecodeForceDot(R"({"type":-1})").type, -1);
 }
 
-TEST_F(ForceDotBubbleTest, ModeZeroAloneSetsTheFlagAndAMistypedOneInvertsIt) {
+TEST_F(ForceDotBubbleTest, OnlyModeZeroSetsTheFlagAndAMistypedOneInvertsIt) {
   EXPECT_TRUE(DecodeForceDot(R"({"mode":0})").mode_flag);
   EXPECT_FALSE(DecodeForceDot(R"({"mode":1})").mode_flag);
   EXPECT_FALSE(DecodeForceDot(R"({"mode":-1})").mode_flag);
@@ -74,7 +74,7 @@ TEST_F(ForceDotBubbleTest, TypeOfAnotherJsonTypeKeepsTheDefault) {
   }
 }
 
-TEST_F(ForceDotBubbleTest, BrokenPayloadIsLoggedAndLeavesTheKindCodeAlone) {
+TEST_F(ForceDotBubbleTest, BrokenPayloadIsLoggedAndLeavesOnlyTheKindCode) {
   for (const std::string payload : {"{", "[1]", "5", "null", "\"{}\"", R"({"mode":0,})"}) {
     DecodeForceDot(payload);
     EXPECT_EQ(Base(), Bare()) << payload;
@@ -82,7 +82,7 @@ TEST_F(ForceDotBubbleTest, BrokenPayloadIsLoggedAndLeavesTheKindCodeAlone) {
   }
 }
 
-TEST_F(ForceDotBubbleTest, EmptyPayloadIsLoggedWithNothingBehindTheMessage) {
+TEST_F(ForceDotBubbleTest, EmptyPayloadIsLoggedWithNothingAfterTheMessage) {
   DecodeWhole("kavrix://resource/.ForceDotBubble");
   EXPECT_EQ(Base(), Bare());
   ASSERT_EQ(records().size(), 2U);

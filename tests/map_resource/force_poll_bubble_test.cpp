@@ -19,7 +19,7 @@ class ForcePollBubbleTest : public DecodeTest {
     bare.bubble_kind = 28;
     return bare;
   }
-  // What every good payload gives.
+  // Returns the descriptor with the members that every readable payload sets.
   static BubbleDrawDescriptor Forced() {
     BubbleDrawDescriptor forced = Bare();
     forced.content = "ForcePoll";
@@ -60,7 +60,7 @@ TEST_F(ForcePollBubbleTest, TypeIsNarrowedTo16Bits) {
   EXPECT_EQ(DecodeForcePoll(R"({"type":-1})").type, -1);
 }
 
-TEST_F(ForcePollBubbleTest, ModeZeroAloneSetsTheFlagAndAMistypedOneInvertsIt) {
+TEST_F(ForcePollBubbleTest, OnlyModeZeroSetsTheFlagAndAMistypedOneInvertsIt) {
   EXPECT_TRUE(DecodeForcePoll(R"({"mode":0})").mode_flag);
   EXPECT_FALSE(DecodeForcePoll(R"({"mode":1})").mode_flag);
   EXPECT_FALSE(DecodeForcePoll(R"({"mode":-1})").mode_flag);
@@ -74,7 +74,7 @@ TEST_F(ForcePollBubbleTest, TypeOfAnotherJsonTypeKeepsTheDefault) {
   }
 }
 
-TEST_F(ForcePollBubbleTest, BrokenPayloadIsLoggedAndLeavesTheKindCodeAlone) {
+TEST_F(ForcePollBubbleTest, BrokenPayloadIsLoggedAndLeavesOnlyTheKindCode) {
   for (const std::string payload : {"{", "[1]", "5", "null", "\"{}\"", R"({"mode":0,})"}) {
     DecodeForcePoll(payload);
     EXPECT_EQ(Base(), Bare()) << payload;
@@ -82,7 +82,7 @@ TEST_F(ForcePollBubbleTest, BrokenPayloadIsLoggedAndLeavesTheKindCodeAlone) {
   }
 }
 
-TEST_F(ForcePollBubbleTest, EmptyPayloadIsLoggedWithNothingBehindTheMessage) {
+TEST_F(ForcePollBubbleTest, EmptyPayloadIsLoggedWithNothingAfterTheMessage) {
   DecodeWhole("kavrix://resource/.ForcePollBubble");
   EXPECT_EQ(Base(), Bare());
   ASSERT_EQ(records().size(), 2U);

@@ -15,7 +15,7 @@ class HdLongSolidBubbleTest : public DecodeTest {
     Decode(rest + ".hdLongSolidBubble");
     return Out<HDLongSolidBubbleDrawDescriptor>();
   }
-  // What every name gets, whatever it carries.
+  // Returns the descriptor with the members that every name sets.
   static HDLongSolidBubbleDrawDescriptor Styled() {
     HDLongSolidBubbleDrawDescriptor styled;
     styled.bubble_kind = 12;
@@ -24,8 +24,8 @@ class HdLongSolidBubbleTest : public DecodeTest {
     styled.style_scale = {FloatOf(14, 3), FloatOf(14, 3)};
     return styled;
   }
-  // The one record of this kind, printed with the base members alone.
-  void ExpectRoutineRecordAlone() {
+  // Expects the one record of this kind, which prints only the base members.
+  void ExpectOnlyRoutineRecord() {
     EXPECT_THAT(records(), ElementsAre(Request(), Routine(kTag, kFunction, Printed(Base()))));
   }
 };
@@ -39,9 +39,9 @@ TEST_F(HdLongSolidBubbleTest, TwoFieldsFillContentModeAndDirectionButNotForce) {
   EXPECT_EQ(Base(), expected);
 }
 
-TEST_F(HdLongSolidBubbleTest, RoutineRecordPrintsTheBaseMembersAlone) {
+TEST_F(HdLongSolidBubbleTest, RoutineRecordPrintsOnlyTheBaseMembers) {
   DecodeSolid("solid_0@90");
-  ExpectRoutineRecordAlone();
+  ExpectOnlyRoutineRecord();
   EXPECT_EQ(records()[1].message,
             "[Kavrix][ctx]BubbleDrawDescriptor{scene:0, content:\"solid\", lan:\"\", bubble_kind:12, type:0, "
             "direction:90, mode_flag:true, style_name:\"hd_long_solid_style\", icon:\"\", style_word:14002, "
@@ -57,7 +57,7 @@ TEST_F(HdLongSolidBubbleTest, OtherModeClearsTheFlagAndAThirdFieldSetsForce) {
   EXPECT_EQ(Base(), expected);
 }
 
-TEST_F(HdLongSolidBubbleTest, ThirdFieldSetsForceWhateverItHoldsAndLaterOnesArePassedOver) {
+TEST_F(HdLongSolidBubbleTest, ThirdFieldSetsForceWhateverItHoldsAndLaterOnesAreIgnored) {
   for (const char* const force : {"_", "_0", "_1", "_false", "_f_g_h", "____"}) {
     const auto& solid = DecodeSolid(std::string("solid_0") + force + "@90");
     EXPECT_TRUE(solid.is_force) << force;
@@ -68,21 +68,21 @@ TEST_F(HdLongSolidBubbleTest, ThirdFieldSetsForceWhateverItHoldsAndLaterOnesAreP
   }
 }
 
-TEST_F(HdLongSolidBubbleTest, OneFieldAloneLeavesTheDirectionAndTheStyle) {
+TEST_F(HdLongSolidBubbleTest, OnlyOneFieldLeavesTheDirectionAndTheStyle) {
   HDLongSolidBubbleDrawDescriptor expected = Styled();
   expected.direction = 90;
   for (const std::string head : {"solid", ""}) {
     DecodeSolid(head + "@90");
     EXPECT_EQ(Base(), expected) << head;
-    ExpectRoutineRecordAlone();
+    ExpectOnlyRoutineRecord();
   }
 }
 
-TEST_F(HdLongSolidBubbleTest, NamesWithoutExactlyOneAtHaveTheirKindCodeAndStyleAlone) {
+TEST_F(HdLongSolidBubbleTest, NamesWithoutExactlyOneAtHaveOnlyTheirKindCodeAndStyle) {
   for (const std::string rest : {"solid_0@90@1", "solid_0", "", "s@lid_0@90", "@@"}) {
     DecodeSolid(rest);
     EXPECT_EQ(Base(), Styled()) << rest;
-    ExpectRoutineRecordAlone();
+    ExpectOnlyRoutineRecord();
   }
 }
 
@@ -99,7 +99,7 @@ TEST_F(HdLongSolidBubbleTest, ModeThatIsNoIntegerKeepsTheFlagWithoutInvertingIt)
     EXPECT_FALSE(solid.mode_flag) << mode;
     EXPECT_EQ(solid.content, "solid");
     EXPECT_EQ(solid.direction, 90);
-    ExpectRoutineRecordAlone();
+    ExpectOnlyRoutineRecord();
   }
 }
 
@@ -121,7 +121,7 @@ TEST_F(HdLongSolidBubbleTest, DirectionThatIsNoNumberIsLeftAloneAndTheFieldsAreR
     EXPECT_EQ(solid.content, "solid");
     EXPECT_TRUE(solid.mode_flag);
     EXPECT_TRUE(solid.is_force);
-    ExpectRoutineRecordAlone();
+    ExpectOnlyRoutineRecord();
   }
 }
 

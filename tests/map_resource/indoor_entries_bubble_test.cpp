@@ -25,8 +25,8 @@ class IndoorEntriesBubbleTest : public DecodeTest {
     return Out<IndoorEntriesBubbleDrawDescriptor>();
   }
 
-  // What is left of a name of which nothing fits.
-  static IndoorEntriesBubbleDrawDescriptor KindAndStyleAlone() {
+  // Returns the descriptor of a name whose fields cannot be read.
+  static IndoorEntriesBubbleDrawDescriptor OnlyKindAndStyle() {
     IndoorEntriesBubbleDrawDescriptor entries;
     entries.bubble_kind = 13;
     entries.style_name = "indoor_entries_style";
@@ -37,7 +37,7 @@ class IndoorEntriesBubbleTest : public DecodeTest {
 };
 
 TEST_F(IndoorEntriesBubbleTest, EveryFieldFillsItsMember) {
-  auto expected = KindAndStyleAlone();
+  auto expected = OnlyKindAndStyle();
   expected.content = "万达广场";
   expected.mode_flag = true;
   expected.lan = "zh";
@@ -93,7 +93,7 @@ TEST_F(IndoorEntriesBubbleTest, FieldsBesideABadEntriesValueAreRead) {
 }
 
 TEST_F(IndoorEntriesBubbleTest, HeadOfFourOrSixFieldsIsLostButNotTheDirection) {
-  auto expected = KindAndStyleAlone();
+  auto expected = OnlyKindAndStyle();
   expected.direction = 4;
   EXPECT_EQ(DecodeEntries("Mall_0_en_12@4"), expected);
   EXPECT_EQ(DecodeEntries("Mall_0_en_12_East_gate@4"), expected);
@@ -111,9 +111,9 @@ TEST_F(IndoorEntriesBubbleTest, UnderscoreInTheEntriesTextLosesTheHead) {
 }
 
 TEST_F(IndoorEntriesBubbleTest, AnyOtherNumberOfAtSignsLosesEverything) {
-  EXPECT_EQ(DecodeEntries("Mall_0_en_12_East gate"), KindAndStyleAlone());
-  EXPECT_EQ(DecodeEntries("M@ll_0_en_12_East gate@4"), KindAndStyleAlone());
-  EXPECT_EQ(DecodeEntries(""), KindAndStyleAlone());
+  EXPECT_EQ(DecodeEntries("Mall_0_en_12_East gate"), OnlyKindAndStyle());
+  EXPECT_EQ(DecodeEntries("M@ll_0_en_12_East gate@4"), OnlyKindAndStyle());
+  EXPECT_EQ(DecodeEntries(""), OnlyKindAndStyle());
 }
 
 TEST_F(IndoorEntriesBubbleTest, EmptyTextFieldsAreRead) {
@@ -125,7 +125,7 @@ TEST_F(IndoorEntriesBubbleTest, EmptyTextFieldsAreRead) {
   EXPECT_EQ(entries.entries_text, "");
 }
 
-TEST_F(IndoorEntriesBubbleTest, ModeZeroAloneSetsTheFlag) {
+TEST_F(IndoorEntriesBubbleTest, OnlyModeZeroSetsTheFlag) {
   EXPECT_TRUE(DecodeEntries("Mall_0_en_12_East@4").mode_flag);
   for (const std::string mode : {"1", "2", "-1"}) {
     EXPECT_FALSE(DecodeEntries("Mall_" + mode + "_en_12_East@4").mode_flag) << mode;
@@ -173,7 +173,7 @@ TEST_F(IndoorEntriesBubbleTest, OneSnapshotIsTakenForAGoodName) {
 
 TEST_F(IndoorEntriesBubbleTest, BareMarkerIsLongEnoughForThePrefix) {
   DecodeWhole(".inDoorEntriesBubble");
-  EXPECT_EQ(Base(), KindAndStyleAlone());
+  EXPECT_EQ(Base(), OnlyKindAndStyle());
 }
 
 TEST_F(IndoorEntriesBubbleTest, NameShorterThanThePrefixThrowsWithOutAlreadyReplaced) {

@@ -17,7 +17,7 @@ class LightCountdownBubbleTest : public DecodeTest {
     Decode(rest + ".lightCountdownBubble");
     return Out<LightCountdownTimerDrawDescriptor>();
   }
-  void ExpectRoutineRecordAlone() {
+  void ExpectOnlyRoutineRecord() {
     EXPECT_THAT(
         records(),
         ElementsAre(Request(), Routine(kTag, kFunction, Printed(Out<LightCountdownTimerDrawDescriptor>()))));
@@ -59,7 +59,7 @@ TEST_F(LightCountdownBubbleTest, RoutineRecordPrintsAllMembers) {
   DecodeLight(
       R"({"is_force_":1,"scene":-3,"mode":1,"id":"L7","style":2,"light_type":4,"turn_arrow_type":5,"time":38,)"
       R"("text":"go"}@12)");
-  ExpectRoutineRecordAlone();
+  ExpectOnlyRoutineRecord();
   EXPECT_EQ(records()[1].message,
             "[Kavrix][ctx]LightCountdownTimerDrawDescriptor{scene:-3, content:\"\", lan:\"\", bubble_kind:0, "
             "type:0, direction:12, mode_flag:false, style_name:\"\", icon:\"\", style_word:0, "
@@ -82,7 +82,7 @@ TEST_F(LightCountdownBubbleTest, EmptyObjectGivesTheDirectionAndAnInvertedModeFl
   EXPECT_EQ(Base(), expected);
 }
 
-TEST_F(LightCountdownBubbleTest, ModeZeroAloneSetsTheFlag) {
+TEST_F(LightCountdownBubbleTest, OnlyModeZeroSetsTheFlag) {
   EXPECT_TRUE(DecodeLight(R"({"mode":0}@1)").mode_flag);
   EXPECT_FALSE(DecodeLight(R"({"mode":1}@1)").mode_flag);
   EXPECT_FALSE(DecodeLight(R"({"mode":2}@1)").mode_flag);
@@ -116,7 +116,7 @@ TEST_F(LightCountdownBubbleTest, NamesWithoutExactlyOneAtAreNotDecodedAtAll) {
                                  R"({"scene":3,"text":"a@b"}@12)", "broken", "@@"}) {
     DecodeLight(rest);
     EXPECT_EQ(Base(), LightCountdownTimerDrawDescriptor()) << rest;
-    ExpectRoutineRecordAlone();
+    ExpectOnlyRoutineRecord();
   }
 }
 
@@ -135,11 +135,11 @@ TEST_F(LightCountdownBubbleTest, DirectionThatIsNoNumberIsLeftAloneWithoutARecor
   for (const char* const direction : {"x", "", " 7", "7 ", "7x", "0x7", "2147483648", "7.5", "."}) {
     EXPECT_EQ(DecodeLight(std::string(R"({"scene":3}@)") + direction).direction, 0) << direction;
     EXPECT_EQ(Base().scene, 3);
-    ExpectRoutineRecordAlone();
+    ExpectOnlyRoutineRecord();
   }
 }
 
-TEST_F(LightCountdownBubbleTest, TextBehindTheMarkerSpoilsTheDirectionOnlyWithADot) {
+TEST_F(LightCountdownBubbleTest, TextAfterTheMarkerSpoilsTheDirectionOnlyWithADot) {
   Decode("{}@7.lightCountdownBubble2");
   EXPECT_EQ(Base().direction, 7);
   Decode("{}@7.lightCountdownBubble.png");

@@ -15,7 +15,7 @@ class LightWaitBubbleTest : public DecodeTest {
     Decode(rest + ".lightWaitBubble");
     return Out<LightWaitBubbleDrawDescriptor>();
   }
-  // What every name gets, whatever it carries.
+  // Returns the descriptor with the members that every name sets.
   static LightWaitBubbleDrawDescriptor Styled() {
     LightWaitBubbleDrawDescriptor styled;
     styled.bubble_kind = 14;
@@ -24,8 +24,8 @@ class LightWaitBubbleTest : public DecodeTest {
     styled.style_scale = {FloatOf(17, 3), FloatOf(17, 3)};
     return styled;
   }
-  // The one record of this kind, printed with the base members alone.
-  void ExpectRoutineRecordAlone() {
+  // Expects the one record of this kind, which prints only the base members.
+  void ExpectOnlyRoutineRecord() {
     EXPECT_THAT(records(), ElementsAre(Request(), Routine(kTag, kFunction, Printed(Base()))));
   }
 };
@@ -43,7 +43,7 @@ TEST_F(LightWaitBubbleTest, EveryFieldFillsItsMember) {
 
 TEST_F(LightWaitBubbleTest, RoutineRecordUnderTheTagWithoutTheModuleWordPrintsTheBaseMembers) {
   DecodeWait("等灯_0_1_1@3");
-  ExpectRoutineRecordAlone();
+  ExpectOnlyRoutineRecord();
   EXPECT_EQ(records()[1].tag, "MapLayerMgr_LightWait");
   EXPECT_EQ(records()[1].message,
             "[Kavrix][ctx]BubbleDrawDescriptor{scene:1, content:\"等灯\", lan:\"\", bubble_kind:14, type:0, "
@@ -60,7 +60,7 @@ TEST_F(LightWaitBubbleTest, OtherForceTextAndModeClearBothFlags) {
   EXPECT_EQ(Base(), expected);
 }
 
-TEST_F(LightWaitBubbleTest, ForceIsSetByTheOneCharacterTextOneAlone) {
+TEST_F(LightWaitBubbleTest, ForceIsSetOnlyByTheOneCharacterTextOne) {
   EXPECT_TRUE(DecodeWait("poi_0_1_1@3").is_force);
   for (const char* const force : {"", "0", "01", "1 ", " 1", "+1", "2", "11", "true"}) {
     EXPECT_FALSE(DecodeWait(std::string("poi_0_1_") + force + "@3").is_force) << force;
@@ -78,11 +78,11 @@ TEST_F(LightWaitBubbleTest, EveryNameTakesOneSnapshotAndTheStyle) {
   }
 }
 
-TEST_F(LightWaitBubbleTest, NamesWithoutExactlyOneAtHaveTheirKindCodeAndStyleAlone) {
+TEST_F(LightWaitBubbleTest, NamesWithoutExactlyOneAtHaveOnlyTheirKindCodeAndStyle) {
   for (const std::string rest : {"", "poi_0_1_1", "poi_0_1_1@3@4", "p@i_0_1_1@3", "@@"}) {
     DecodeWait(rest);
     EXPECT_EQ(Base(), Styled()) << rest;
-    ExpectRoutineRecordAlone();
+    ExpectOnlyRoutineRecord();
   }
 }
 
@@ -92,7 +92,7 @@ TEST_F(LightWaitBubbleTest, OtherThanFourFieldsLeaveTheDirectionAndTheStyle) {
   for (const std::string head : {"A_B_C", "", "poi", "poi_0_1_1_", "poi_0_1_1_1"}) {
     DecodeWait(head + "@3");
     EXPECT_EQ(Base(), expected) << head;
-    ExpectRoutineRecordAlone();
+    ExpectOnlyRoutineRecord();
   }
 }
 
@@ -119,7 +119,7 @@ TEST_F(LightWaitBubbleTest, FieldThatIsNoIntegerLeavesItsMemberAloneAndTheOthers
   EXPECT_EQ(Base(), expected);
 }
 
-TEST_F(LightWaitBubbleTest, ModeZeroAloneSetsTheFlag) {
+TEST_F(LightWaitBubbleTest, OnlyModeZeroSetsTheFlag) {
   EXPECT_TRUE(DecodeWait("poi_0_1_1@3").mode_flag);
   EXPECT_TRUE(DecodeWait("poi_-0_1_1@3").mode_flag);
   for (const char* const mode : {"1", "2", "-1", "", " 0", "0.0"}) {
@@ -147,7 +147,7 @@ TEST_F(LightWaitBubbleTest, DirectionThatIsNoNumberIsLeftAlone) {
   for (const char* const direction : {"", "x", "3x", " 3", "9.5", "2147483648"}) {
     EXPECT_EQ(DecodeWait(std::string("poi_0_1_1@") + direction).direction, 0) << direction;
     EXPECT_EQ(Base().content, "poi");
-    ExpectRoutineRecordAlone();
+    ExpectOnlyRoutineRecord();
   }
 }
 

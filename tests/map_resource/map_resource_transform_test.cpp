@@ -69,7 +69,7 @@ TEST_F(MapResourceTransformTest, RejectedNameLeavesOutUntouched) {
   EXPECT_EQ(snapshots(), 0);
 }
 
-TEST_F(MapResourceTransformTest, EmptyNameIsLoggedWithNothingBehindItAndRejected) {
+TEST_F(MapResourceTransformTest, EmptyNameIsLoggedWithNothingAfterItAndRejected) {
   DecodeWhole("");
   EXPECT_THAT(records(), ElementsAre(Routine(kTag, kFunction, "resource_name:"),
                                      Failure(kTag, kFunction, "resource_name:, it is a not valid bubble.")));
@@ -160,7 +160,7 @@ TEST_F(MapResourceTransformTest, OrderBeatsPosition) {
   EXPECT_EQ(records()[1].tag, "KavrixMapLayerMgr_BubbleName");
 }
 
-TEST_F(MapResourceTransformTest, MarkerIsRecognisedWithTextBehindIt) {
+TEST_F(MapResourceTransformTest, MarkerIsRecognisedWithTextAfterIt) {
   Decode("{}.turnBubble?v=1");
   EXPECT_STREQ(Base().TypeName(), "TurnArrowBubbleDrawDescriptor");
 }
@@ -184,7 +184,7 @@ TEST_F(MapResourceTransformTest, MarkerNameIsNoBubble) {
   EXPECT_THAT(records(), ElementsAre(Request(), Rejection()));
 }
 
-TEST_F(MapResourceTransformTest, RejectedTagSilencesTheDispatcherAlone) {
+TEST_F(MapResourceTransformTest, RejectedTagSilencesOnlyTheDispatcher) {
   std::vector<std::string> tags;
   struct Sink : logging::LogSink {
     explicit Sink(std::vector<std::string>& seen) : seen_(seen) {}

@@ -93,7 +93,7 @@ TEST_F(MarkerBubbleTest, NoSnapshotIsTaken) {
   EXPECT_EQ(snapshots(), 0);
 }
 
-TEST_F(MarkerBubbleTest, ModeZeroAloneSetsTheFlagAndAMistypedModeInvertsIt) {
+TEST_F(MarkerBubbleTest, OnlyModeZeroSetsTheFlagAndAMistypedModeInvertsIt) {
   EXPECT_TRUE(DecodeMarkerBubble(R"({"mode":0})").mode_flag);
   EXPECT_FALSE(DecodeMarkerBubble(R"({"mode":1})").mode_flag);
   EXPECT_FALSE(DecodeMarkerBubble(R"({"mode":-1})").mode_flag);

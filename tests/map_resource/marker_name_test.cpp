@@ -80,7 +80,7 @@ TEST_F(MarkerNameTest, ContentAndTypeAreNotReadFromTheName) {
   EXPECT_FALSE(marker.selected);
 }
 
-TEST_F(MarkerNameTest, ModeZeroAloneSetsTheFlagAndAMistypedOneInvertsIt) {
+TEST_F(MarkerNameTest, OnlyModeZeroSetsTheFlagAndAMistypedOneInvertsIt) {
   EXPECT_TRUE(DecodeMarker(R"({"mode":0})").mode_flag);
   EXPECT_FALSE(DecodeMarker(R"({"mode":1})").mode_flag);
   EXPECT_FALSE(DecodeMarker(R"({"mode":2})").mode_flag);
@@ -157,7 +157,7 @@ TEST_F(MarkerNameTest, BrokenPayloadIsLoggedWithTheWholeNameAndLeavesOutUntouche
   }
 }
 
-TEST_F(MarkerNameTest, NameOfPrefixAndTailAloneFails) {
+TEST_F(MarkerNameTest, NameOfOnlyPrefixAndTailFails) {
   DecodeMarkerWhole("kavrix://resource/.marker");
   EXPECT_EQ(out_, nullptr);
   ASSERT_EQ(records().size(), 1U);

@@ -20,7 +20,7 @@ class MultiLightCountdownBubbleTest : public DecodeTest {
   const std::vector<Light>& LightsOf(const std::string& array) {
     return DecodeLights(R"({"light_descriptors":)" + array + "}@0").light_descriptors;
   }
-  void ExpectRoutineRecordAlone() {
+  void ExpectOnlyRoutineRecord() {
     EXPECT_THAT(records(),
                 ElementsAre(Request(), Routine(kTag, kFunction,
                                                Printed(Out<MultiLightCountdownTimerDrawDescriptor>()))));
@@ -56,7 +56,7 @@ TEST_F(MultiLightCountdownBubbleTest, EveryKeyFillsItsMember) {
 
 TEST_F(MultiLightCountdownBubbleTest, RoutineRecordPrintsAllMembersAndLights) {
   DecodeLights(R"({"is_animation":1,"id":"M1","light_descriptors":[{"text":"a","remain_time":3},{}]}@12)");
-  ExpectRoutineRecordAlone();
+  ExpectOnlyRoutineRecord();
   EXPECT_EQ(records()[1].message,
             "[Kavrix][ctx]MultiLightCountdownTimerDrawDescriptor{scene:0, content:\"\", lan:\"\", "
             "bubble_kind:0, type:0, direction:12, mode_flag:true, style_name:\"\", icon:\"\", style_word:0, "
@@ -91,10 +91,10 @@ TEST_F(MultiLightCountdownBubbleTest, EachNameStartsWithAnEmptyList) {
 TEST_F(MultiLightCountdownBubbleTest, ListThatIsNoArrayAddsNothingAndIsNotLogged) {
   for (const char* const list : {R"({"light_type":4})", "null", "5", "\"[]\"", "true"}) {
     EXPECT_TRUE(LightsOf(list).empty()) << list;
-    ExpectRoutineRecordAlone();
+    ExpectOnlyRoutineRecord();
   }
   EXPECT_TRUE(DecodeLights("{}@0").light_descriptors.empty());
-  ExpectRoutineRecordAlone();
+  ExpectOnlyRoutineRecord();
 }
 
 TEST_F(MultiLightCountdownBubbleTest, ElementOfAnyJsonTypeGivesOneLight) {
@@ -102,7 +102,7 @@ TEST_F(MultiLightCountdownBubbleTest, ElementOfAnyJsonTypeGivesOneLight) {
   ASSERT_EQ(lights.size(), 8U);
   for (std::size_t i = 0; i < 7; ++i) ExpectAsConstructed(lights[i]);
   EXPECT_EQ(lights[7].light_type, 7);
-  ExpectRoutineRecordAlone();
+  ExpectOnlyRoutineRecord();
 }
 
 TEST_F(MultiLightCountdownBubbleTest, KeysOfALightOfAnotherTypeKeepItsDefaults) {
@@ -128,14 +128,14 @@ TEST_F(MultiLightCountdownBubbleTest, TypeIsNarrowedTo16Bits) {
   EXPECT_EQ(DecodeLights("{}@0").type, -25536);
 }
 
-TEST_F(MultiLightCountdownBubbleTest, NamesWithoutExactlyOneAtHaveTheirTypeAlone) {
+TEST_F(MultiLightCountdownBubbleTest, NamesWithoutExactlyOneAtHaveOnlyTheirType) {
   context_->multi_light_type = 6;
   MultiLightCountdownTimerDrawDescriptor expected;
   expected.type = 6;
   for (const std::string rest : {"", R"({"scene":3})", R"({"scene":3}@12@13)", R"({"id":"a@b"}@12)"}) {
     DecodeLights(rest);
     EXPECT_EQ(Base(), expected) << rest;
-    ExpectRoutineRecordAlone();
+    ExpectOnlyRoutineRecord();
   }
 }
 
@@ -178,7 +178,7 @@ TEST_F(MultiLightCountdownBubbleTest, KeysOfAnotherTypeKeepTheDefaults) {
 TEST_F(MultiLightCountdownBubbleTest, DirectionThatIsNoNumberIsLeftAloneWithoutARecord) {
   for (const char* const direction : {"x", "", " 7", "7x", "2147483648", "7.5"}) {
     EXPECT_EQ(DecodeLights(std::string("{}@") + direction).direction, 0) << direction;
-    ExpectRoutineRecordAlone();
+    ExpectOnlyRoutineRecord();
   }
 }
 

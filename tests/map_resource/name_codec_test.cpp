@@ -12,7 +12,7 @@ constexpr int kComesBack = 3;
 constexpr int kComesBackAsAnother = 4;
 constexpr int kIsNotRead = 5;
 
-// A kind whose reader and writer have drifted apart.
+// A format whose reader and writer disagree.
 struct DriftedFormat : JsonFormat<DriftedFormat, BubbleDrawDescriptor> {
   static constexpr std::string_view kMarker = ".turnBubble";
   template <class Keys, class Descriptor>

@@ -5,7 +5,7 @@
 #include <map>
 #include <string>
 
-// The catalogue as another source file sees it.
+// Gives the catalogue as another source file sees it.
 namespace kavrix::test::other_unit {
 
 const std::map<std::uint32_t, std::uint32_t>& DayNightResourceMap();

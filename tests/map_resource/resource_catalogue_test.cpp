@@ -16,7 +16,7 @@ using R::DayNightResourceMap;
 using R::ResourceID2DescriptionMap;
 using ::testing::StartsWith;
 
-// The ids and their descriptions, one pair a line, in the order of the ids.
+// Reads resource_catalogue.txt, which has an id and its description on each line.
 std::map<std::uint32_t, std::string> ReadList() {
   std::ifstream file(std::string(KAVRIX_SOURCE_DIR) + "/tests/map_resource/resource_catalogue.txt");
   std::map<std::uint32_t, std::string> descriptions;
@@ -128,7 +128,7 @@ TEST(ResourceCatalogueTest, EverySourceFileHasItsOwnEqualCopy) {
   EXPECT_EQ(other_unit::FontName(), Layer::Style::FONT_NAME);
 }
 
-// Built before the code of this file runs, however early.
+// The tables are complete before any code of this file runs, even its static initialisers.
 const std::size_t count_before_main = ResourceID2DescriptionMap.size();
 
 TEST(ResourceCatalogueTest, IsThereBeforeMain) { EXPECT_EQ(count_before_main, 202U); }

@@ -25,7 +25,7 @@ class ResourceNameEncoderTest : public DecodeTest {
   }
 };
 
-// By the function for the type that `bubble` must have.
+// Encodes `bubble`, which must have the kind's type, by the kind's function.
 std::string EncodeTyped(const BubbleKindInfo& info, const BubbleDrawDescriptor& bubble) {
 #define KAVRIX_BUBBLE_KIND(Kind, stem, marker, Descriptor, Parse, Encode) \
   if (&info == &k##Kind##BubbleInfo) return Encode(dynamic_cast<const Descriptor&>(bubble));
@@ -51,7 +51,7 @@ TEST_F(ResourceNameEncoderTest, FieldsOfEveryKindComeBackAndTheirBubbleGivesTheS
   }
 }
 
-// The name of what the name carries.
+// Encodes the fields of the name again.
 std::string EncodedAgain(const BubbleKindInfo& info, const std::string& name) {
   Json::Value fields;
   EXPECT_TRUE(JsonUtil::ParseObject(info.codec.read_fields(name).value(), fields));
@@ -90,7 +90,7 @@ TEST_F(ResourceNameEncoderTest, NavigationModesThatSelectTheSameStyleGiveTheSame
   EXPECT_EQ(kTrafficBubbleInfo.codec.encode_fields(fields), EncodeTrafficBubbleResourceName(traffic, 0));
 }
 
-// Every name that the goldens hold: what is built of its fields decodes to the same bubble.
+// Encodes the fields of every golden name: the new name decodes to the same bubble.
 TEST_F(ResourceNameEncoderTest, CanonicalFormOfADecodableNameDecodesTheSame) {
   int names = 0;
   for (const BubbleKindInfo* const info : AllKindInfos()) {

@@ -35,11 +35,11 @@ TEST_F(ResourceNameTest, NeitherEndIsCompared) {
   EXPECT_EQ(StripPrefix("123456789012345678{}.turnBubble"), "{}.turnBubble");
 }
 
-TEST_F(ResourceNameTest, TextBehindTheMarkerMovesTheCut) {
+TEST_F(ResourceNameTest, TextAfterTheMarkerMovesTheCut) {
   EXPECT_EQ(StripPrefixAndMarker("kavrix://resource/{}.turnBubble?v=1", ".turnBubble"), "{}.tur");
 }
 
-TEST_F(ResourceNameTest, NameTooShortForBothIsLeftWholeBehindThePrefix) {
+TEST_F(ResourceNameTest, NameTooShortForBothIsLeftWholeAfterThePrefix) {
   EXPECT_EQ(StripPrefixAndMarker("kavrix://resource/{}", ".turnBubble"), "{}");
   EXPECT_EQ(StripPrefixAndMarker("kavrix://resource/0123456789", ".turnBubble"), "0123456789");
   EXPECT_EQ(StripPrefixAndMarker("kavrix://resource/01234567890", ".turnBubble"), "");

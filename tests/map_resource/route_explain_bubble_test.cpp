@@ -98,7 +98,7 @@ TEST_F(RouteExplainBubbleTest, EmptyObjectGivesDefaultsWithTheFlagInverted) {
   EXPECT_EQ(DecodeExplain("{}"), expected);
 }
 
-TEST_F(RouteExplainBubbleTest, ModeZeroAloneSetsTheFlagAndAMistypedModeInvertsIt) {
+TEST_F(RouteExplainBubbleTest, OnlyModeZeroSetsTheFlagAndAMistypedModeInvertsIt) {
   EXPECT_TRUE(DecodeExplain(R"({"mode":0})").mode_flag);
   EXPECT_FALSE(DecodeExplain(R"({"mode":1})").mode_flag);
   EXPECT_FALSE(DecodeExplain(R"({"mode":-1})").mode_flag);

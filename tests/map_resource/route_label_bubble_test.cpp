@@ -21,8 +21,8 @@ class RouteLabelBubbleTest : public DecodeTest {
     return Base();
   }
 
-  // What is left of a name of which nothing fits.
-  static BubbleDrawDescriptor KindAndStyleAlone() {
+  // Returns the descriptor of a name whose fields cannot be read.
+  static BubbleDrawDescriptor OnlyKindAndStyle() {
     BubbleDrawDescriptor label;
     label.bubble_kind = 7;
     label.style_name = "route_label_style";
@@ -33,7 +33,7 @@ class RouteLabelBubbleTest : public DecodeTest {
 };
 
 TEST_F(RouteLabelBubbleTest, EveryFieldFillsItsMember) {
-  auto expected = KindAndStyleAlone();
+  auto expected = OnlyKindAndStyle();
   expected.content = "Main St";
   expected.mode_flag = true;
   expected.direction = 12;
@@ -65,7 +65,7 @@ TEST_F(RouteLabelBubbleTest, OtherModesTakeTheWordFromValue3) {
   }
 }
 
-TEST_F(RouteLabelBubbleTest, Value4FillsTheFirstScaleAlone) {
+TEST_F(RouteLabelBubbleTest, Value4FillsOnlyTheFirstScale) {
   EXPECT_THAT(DecodeLabel("Main St_0@12").style_scale, ElementsAre(704.5F, 0.0F));
   EXPECT_THAT(DecodeLabel("Main St_1@12").style_scale, ElementsAre(704.5F, 0.0F));
 }
@@ -80,25 +80,25 @@ TEST_F(RouteLabelBubbleTest, ModeThatIsNoNumberLeavesTheFlagAloneAndTheContentIs
 }
 
 TEST_F(RouteLabelBubbleTest, UnderscoreInTheTextLosesTheHeadButNotTheDirection) {
-  auto expected = KindAndStyleAlone();
+  auto expected = OnlyKindAndStyle();
   expected.direction = 12;
   EXPECT_EQ(DecodeLabel("Main_St_0@12"), expected);
 }
 
 TEST_F(RouteLabelBubbleTest, MissingModeLosesTheHeadButNotTheDirection) {
-  auto expected = KindAndStyleAlone();
+  auto expected = OnlyKindAndStyle();
   expected.direction = 12;
   EXPECT_EQ(DecodeLabel("Main St@12"), expected);
   EXPECT_EQ(DecodeLabel("@12"), expected);
 }
 
-TEST_F(RouteLabelBubbleTest, MissingAtSignSetsTheKindAndTheStyleAlone) {
-  EXPECT_EQ(DecodeLabel("Main St_0"), KindAndStyleAlone());
-  EXPECT_EQ(DecodeLabel(""), KindAndStyleAlone());
+TEST_F(RouteLabelBubbleTest, MissingAtSignSetsOnlyTheKindAndTheStyle) {
+  EXPECT_EQ(DecodeLabel("Main St_0"), OnlyKindAndStyle());
+  EXPECT_EQ(DecodeLabel(""), OnlyKindAndStyle());
 }
 
-TEST_F(RouteLabelBubbleTest, AtSignInTheTextSetsTheKindAndTheStyleAlone) {
-  EXPECT_EQ(DecodeLabel("Main@St_0@12"), KindAndStyleAlone());
+TEST_F(RouteLabelBubbleTest, AtSignInTheTextSetsOnlyTheKindAndTheStyle) {
+  EXPECT_EQ(DecodeLabel("Main@St_0@12"), OnlyKindAndStyle());
 }
 
 TEST_F(RouteLabelBubbleTest, EmptyTextAndTextWithDotsAreRead) {

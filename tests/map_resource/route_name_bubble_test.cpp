@@ -21,8 +21,8 @@ class RouteNameBubbleTest : public DecodeTest {
     return Base();
   }
 
-  // What is left of a name of which nothing fits.
-  static BubbleDrawDescriptor StyleAlone() {
+  // Returns the descriptor of a name whose fields cannot be read.
+  static BubbleDrawDescriptor OnlyStyle() {
     BubbleDrawDescriptor bubble;
     bubble.style_name = "route_name_style";
     bubble.style_word = WordOf(1, 2);
@@ -55,24 +55,24 @@ TEST_F(RouteNameBubbleTest, RoutineRecordPrintsTheDescriptor) {
 }
 
 TEST_F(RouteNameBubbleTest, UnderscoreInTheContentLosesTheHeadButNotTheDirection) {
-  auto expected = StyleAlone();
+  auto expected = OnlyStyle();
   expected.direction = 3;
   EXPECT_EQ(DecodeRouteName("G4_west_0_2@3"), expected);
 }
 
 TEST_F(RouteNameBubbleTest, MissingHeadFieldLosesTheHeadButNotTheDirection) {
-  auto expected = StyleAlone();
+  auto expected = OnlyStyle();
   expected.direction = 3;
   for (const std::string head : {"", "G4", "G4_0"}) EXPECT_EQ(DecodeRouteName(head + "@3"), expected) << head;
 }
 
 TEST_F(RouteNameBubbleTest, AtSignInTheContentLosesEverything) {
-  EXPECT_EQ(DecodeRouteName("G4@west_0_2@3"), StyleAlone());
+  EXPECT_EQ(DecodeRouteName("G4@west_0_2@3"), OnlyStyle());
 }
 
 TEST_F(RouteNameBubbleTest, MissingAtSignLosesEverything) {
-  EXPECT_EQ(DecodeRouteName("G4_0_2"), StyleAlone());
-  EXPECT_EQ(DecodeRouteName(""), StyleAlone());
+  EXPECT_EQ(DecodeRouteName("G4_0_2"), OnlyStyle());
+  EXPECT_EQ(DecodeRouteName(""), OnlyStyle());
 }
 
 TEST_F(RouteNameBubbleTest, ModeZeroSetsTheFlag) {
@@ -155,7 +155,7 @@ TEST_F(RouteNameBubbleTest, TailWithoutADotLeavesTheDirectionAlone) {
   EXPECT_EQ(bubble.content, "G4");
 }
 
-TEST_F(RouteNameBubbleTest, WordBehindTheDirectionIsNotExamined) {
+TEST_F(RouteNameBubbleTest, WordAfterTheDirectionIsNotExamined) {
   EXPECT_EQ(ParseRest("G4_0_2@3.").direction, 3);
   EXPECT_EQ(ParseRest("G4_0_2@4.other").direction, 4);
   EXPECT_EQ(DecodeRouteName("G4_0_2@5.nameBubble and more").direction, 0);  // a second dot

@@ -50,7 +50,7 @@ TEST_F(SafeWarningBubbleTest, SuccessIsNotLogged) {
   EXPECT_THAT(records(), ElementsAre(Request()));
 }
 
-TEST_F(SafeWarningBubbleTest, DirectionBehindTheAtOverwritesThatOfTheObject) {
+TEST_F(SafeWarningBubbleTest, DirectionAfterTheAtOverwritesThatOfTheObject) {
   EXPECT_EQ(DecodeWarning(R"({"direction":5}@90)").direction, 90);
   EXPECT_EQ(DecodeWarning(R"({"direction":5}@0)").direction, 0);
 }
@@ -100,7 +100,7 @@ TEST_F(SafeWarningBubbleTest, BrokenJsonIsNotLoggedAndTheDirectionIsStillThere) 
   }
 }
 
-TEST_F(SafeWarningBubbleTest, ModeZeroAloneSetsTheFlagAndAnAbsentOrMistypedOneInvertsIt) {
+TEST_F(SafeWarningBubbleTest, OnlyModeZeroSetsTheFlagAndAnAbsentOrMistypedOneInvertsIt) {
   EXPECT_TRUE(DecodeWarning(R"({"mode":0}@0)").mode_flag);
   EXPECT_FALSE(DecodeWarning(R"({"mode":1}@0)").mode_flag);
   EXPECT_TRUE(DecodeWarning("{}@0").mode_flag);

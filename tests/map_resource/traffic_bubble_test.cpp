@@ -33,7 +33,7 @@ TEST_F(TrafficBubbleTest, EveryKeyFillsItsMember) {
   EXPECT_FALSE(traffic.is_force);
 }
 
-TEST_F(TrafficBubbleTest, RoutineRecordPrintsTheBaseMembersAlone) {
+TEST_F(TrafficBubbleTest, RoutineRecordPrintsOnlyTheBaseMembers) {
   DecodeTraffic(R"({"content":"c","light_text":"not printed","mode":0})");
   EXPECT_THAT(records(), ElementsAre(Request(), Routine(kTag, kFunction, Printed(Base()))));
   EXPECT_EQ(records()[1].message,
@@ -114,7 +114,7 @@ TEST_F(TrafficBubbleTest, KeysOfAnotherTypeKeepTheDefaults) {
   EXPECT_EQ(traffic.extra_type, 0);
 }
 
-TEST_F(TrafficBubbleTest, BrokenPayloadLeavesADescriptorWithItsKindCodeAlone) {
+TEST_F(TrafficBubbleTest, BrokenPayloadLeavesADescriptorWithOnlyItsKindCode) {
   for (const std::string payload : {"", "{", "[1]", "5", "null", "\"{}\"", R"({"mode":0,})"}) {
     DecodeTraffic(payload);
     TrafficDrawDescriptor bare;

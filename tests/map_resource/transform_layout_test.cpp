@@ -1,4 +1,4 @@
-// Which members the transform has, of what types and in what order.
+// Tests the members of the transform, their types and their order.
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 namespace kavrix::test {
 namespace {
 
-// Access is not checked where a template is instantiated explicitly, which lets a test name private members.
+// Names private members: access is not checked where a template is instantiated explicitly.
 template <auto Context, auto MarkerBubbleConfig>
 struct PrivateMembers {
   friend void ExpectTransformMembers(const MapResourceTransform& transform) {

@@ -14,7 +14,7 @@ class TurnBubbleTest : public DecodeTest {
     Decode(payload + ".turnBubble");
     return Out<TurnArrowBubbleDrawDescriptor>();
   }
-  // What every name gets, whatever it carries.
+  // Returns the descriptor with the members that every name sets.
   static TurnArrowBubbleDrawDescriptor Named() {
     TurnArrowBubbleDrawDescriptor named;
     named.bubble_kind = 10;
@@ -99,7 +99,7 @@ TEST_F(TurnBubbleTest, ForceCountsOnlyWhenOneAndUnderItsKeyWithTheUnderscore) {
   EXPECT_FALSE(DecodeTurn(R"({"is_force":1})").is_force);
 }
 
-TEST_F(TurnBubbleTest, ModeZeroAloneSetsTheFlagAndAMistypedOneInvertsIt) {
+TEST_F(TurnBubbleTest, OnlyModeZeroSetsTheFlagAndAMistypedOneInvertsIt) {
   EXPECT_TRUE(DecodeTurn(R"({"mode":0})").mode_flag);
   EXPECT_FALSE(DecodeTurn(R"({"mode":1})").mode_flag);
   EXPECT_FALSE(DecodeTurn(R"({"mode":-1})").mode_flag);

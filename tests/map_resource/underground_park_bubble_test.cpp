@@ -55,7 +55,7 @@ TEST_F(UndergroundParkBubbleTest, ContentKeepsEveryByteOfTheName) {
             "\xE5\x9C\xB0\xE4\xB8\x8B\xFF A");
 }
 
-TEST_F(UndergroundParkBubbleTest, ModeZeroAloneSetsTheFlagAndAMistypedOneInvertsIt) {
+TEST_F(UndergroundParkBubbleTest, OnlyModeZeroSetsTheFlagAndAMistypedOneInvertsIt) {
   EXPECT_TRUE(DecodePark(R"({"mode":0})").mode_flag);
   EXPECT_FALSE(DecodePark(R"({"mode":1})").mode_flag);
   EXPECT_FALSE(DecodePark(R"({"mode":-1})").mode_flag);
@@ -72,7 +72,7 @@ TEST_F(UndergroundParkBubbleTest, KeysOfAnotherTypeKeepTheDefaults) {
   EXPECT_EQ(Base(), Bare());
 }
 
-TEST_F(UndergroundParkBubbleTest, BrokenPayloadIsLoggedAndLeavesTheKindCodeAlone) {
+TEST_F(UndergroundParkBubbleTest, BrokenPayloadIsLoggedAndLeavesOnlyTheKindCode) {
   for (const std::string payload : {"\"{}\"", "", "{", "[1]", "5", "null", R"({"mode":0,})"}) {
     DecodePark(payload);
     EXPECT_EQ(Base(), Bare()) << payload;

@@ -79,7 +79,7 @@ TEST_F(ViaCircleBubbleTest, EmptyObjectGivesTheKindCodeAndAnInvertedModeFlag) {
   EXPECT_EQ(Base(), expected);
 }
 
-TEST_F(ViaCircleBubbleTest, ModeZeroAloneSetsTheFlagAndAMistypedOneInvertsIt) {
+TEST_F(ViaCircleBubbleTest, OnlyModeZeroSetsTheFlagAndAMistypedOneInvertsIt) {
   EXPECT_TRUE(DecodeVia(R"({"mode":0})").mode_flag);
   EXPECT_FALSE(DecodeVia(R"({"mode":1})").mode_flag);
   EXPECT_FALSE(DecodeVia(R"({"mode":-1})").mode_flag);
@@ -103,7 +103,7 @@ TEST_F(ViaCircleBubbleTest, KeysOfAnotherTypeKeepTheDefaults) {
   EXPECT_EQ(Base(), Bare());
 }
 
-TEST_F(ViaCircleBubbleTest, BrokenPayloadIsLoggedUnderTheTrafficTagAndLeavesTheKindCodeAlone) {
+TEST_F(ViaCircleBubbleTest, BrokenPayloadIsLoggedUnderTheTrafficTagAndLeavesOnlyTheKindCode) {
   for (const std::string payload : {"", "{", "[1]", "5", "null", "\"{}\"", R"({"scene":3,})"}) {
     DecodeVia(payload);
     EXPECT_EQ(Base(), Bare()) << payload;

@@ -1,4 +1,4 @@
-// A client as the README shows it: the installed headers, the target, nothing else.
+// A client like that of the README, with nothing but the installed headers and the target.
 #include <iostream>
 
 #include "config/bubble_layer_config_file.h"

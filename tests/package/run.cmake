@@ -1,4 +1,4 @@
-# Installs the build in BUILD_DIR to an empty folder, looks at the headers there, then configures, builds and runs the
+# Installs the build in BUILD_DIR to an empty folder, checks the headers there, then configures, builds and runs the
 # client project in SOURCE_DIR against it.
 set(work ${BUILD_DIR}/package_test)
 file(REMOVE_RECURSE ${work})

@@ -5,8 +5,8 @@
 #include <sstream>
 #include <string>
 
-// What the stand-ins for newer plog versions share. They have the constructor and the getters of those
-// versions and nothing behind them.
+// Shared by the stand-ins for newer plog versions, which have only the constructor and the getters of those
+// versions.
 namespace plog {
 
 enum Severity { none = 0, fatal = 1, error = 2, warning = 3, info = 4, debug = 5, verbose = 6 };
@@ -19,7 +19,7 @@ class RecordTexts {
   const char* Message() const { return message_.c_str(); }
   const char* File() const { return file_; }
 
-  // The word before the parenthesis of a function's signature.
+  // Returns the word before the parenthesis of a function's signature.
   const char* Function() const {
     const std::string signature = function_;
     const std::size_t end = signature.find('(');

@@ -5,7 +5,7 @@
 
 #include "util/tagged_log_plog.h"
 
-// Compiled once for each shape that plog's record has had.
+// Compiled once for each form that plog's record has had.
 namespace kavrix::test {
 namespace {
 

@@ -1,4 +1,4 @@
-// The process's global C++ locale belongs to the client: no name may decode otherwise under another one.
+// The global C++ locale belongs to the client: names decode the same under every one.
 
 #include "tests/support/global_locale.h"
 
@@ -28,7 +28,7 @@ std::string ReadAll(const std::filesystem::path& path) {
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-// Whether a number with a point or an exponent stands in the object of the name, outside of its texts.
+// Returns whether the object in the name holds a number with a point or an exponent outside its strings.
 bool HoldsReal(const std::string& name) {
   const std::size_t end = name.rfind('}');
   bool in_text = false;
@@ -45,7 +45,7 @@ bool HoldsReal(const std::string& name) {
   return false;
 }
 
-// The members as the tool prints them, under the paths of FlatMembers.
+// Returns the members as the tool prints them, under the paths of FlatMembers.
 void Flatten(const std::string& path, const OtherJson& value, OtherJson& members) {
   if (value.is_object()) {
     for (const auto& [key, member] : value.items())

@@ -1,5 +1,5 @@
-// Every truncation and every change of one byte of every sample name: harmless, whatever becomes of the name.
-// A sample of them on every run; all of them with KAVRIX_TEST_COMPLETE=1.
+// Decodes every truncation and every one-byte change of every sample name. Tries a sample of them on every
+// run, all of them with KAVRIX_TEST_COMPLETE=1.
 
 #include <random>
 
@@ -11,9 +11,9 @@
 namespace kavrix::test {
 namespace {
 
-// All that a caller sees of one decode.
+// The effects of one decode that a caller sees.
 struct Seen {
-  bool too_short = false;  // std::out_of_range left the call
+  bool too_short = false;  // the call threw std::out_of_range
   std::shared_ptr<BubbleDrawDescriptor> out;
   std::vector<SeenRecord> records;
 };
@@ -42,8 +42,8 @@ class HarmlessNamesTest : public DecodeTest {
     return seen;
   }
 
-  // Nothing but out_of_range may leave the call, and that for short names alone; `out` is what it was or of
-  // the kind's type; the same name gives the same again.
+  // Expects that the call throws nothing but out_of_range, and that only for short names; that `out` is
+  // unchanged or of the kind's type; and that a second decode gives the same.
   void ExpectHarmless(const std::string& name, bool is_marker) {
     const std::size_t prefix_length = std::string(MapResourceManager::kavrix_resource_prefix).size();
     const Seen seen = See(name, is_marker);
@@ -82,7 +82,7 @@ class HarmlessNamesTest : public DecodeTest {
   }
 };
 
-// The n-th change of a name: the truncations from the shortest on, then each byte in all its values.
+// Makes the n-th change of a name: first the truncations, shortest first, then every value of each byte.
 std::string Changed(std::string name, std::size_t n) {
   if (n <= name.size()) return name.substr(0, n);
   n -= name.size() + 1;

@@ -1,5 +1,5 @@
-// Names far beyond what any client builds decode to the right values. What they cost is measured by the
-// allocation tests.
+// Names far larger than any client builds decode to the right values. The allocation tests measure their
+// cost.
 
 #include "tests/support/decode_test.h"
 

@@ -1,4 +1,4 @@
-// What a line-based log shows of names that try to look like records.
+// Tests that names cannot forge records in a log of lines.
 
 #include "util/log_line.h"
 
@@ -105,7 +105,7 @@ TEST_F(StreamSinkTest, ATextOfAPayloadCannotForgeARecord) {
   Decode(R"({"content":"a\nroutine \u2028 forged","mode":0}.trafficBubble)");
   const auto lines = Lines();
   ASSERT_EQ(lines.size(), 2U);
-  // Escaped in the descriptor's text, whose escapes the formatter tells from its own.
+  // The printed descriptor escapes it, and the formatter escapes that backslash again.
   EXPECT_NE(lines[1].find(R"(content:"a\\nroutine \\u2028 forged")"), std::string::npos);
 }
 

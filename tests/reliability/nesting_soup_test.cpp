@@ -1,5 +1,5 @@
-// The nesting scanner against JsonCpp's legacy reader itself, on texts put together from tokens at random:
-// nothing that the reader goes into is missed, and nothing that it takes is refused.
+// Compares the nesting scanner with JsonCpp's legacy reader on texts of random tokens: the scanner misses no
+// value that the reader enters, and refuses no text that the reader accepts.
 
 #include <json/reader.h>
 
@@ -35,7 +35,7 @@ ReaderResult Read(const std::string& text) {
   return result;
 }
 
-// The depth of the deepest value, the root's being 1.
+// Returns the depth of the deepest value; the root has depth 1.
 std::size_t DepthOf(const Json::Value& value) {
   std::size_t deepest = 0;
   if (!value.isArray() && !value.isObject()) return 1;
@@ -43,7 +43,7 @@ std::size_t DepthOf(const Json::Value& value) {
   return deepest + 1;
 }
 
-// Where the installed reader throws: the deepest value that it goes to.
+// Returns the depth of the deepest value that the installed reader enters without throwing.
 std::size_t ReaderLimit() {
   std::size_t depth = 1;
   while (!Read(std::string(depth, '[') + std::string(depth, ']')).too_deep) ++depth;
@@ -62,7 +62,7 @@ class Soup {
     return OneOf({"", "", "", " ", "\n", "/**/", "/*[{\"*/", "//]}\"\n", "//[\r", "/*/[*/", "/*\\*/"});
   }
 
-  // No two keys of a text are the same, so that every value stays in the tree.
+  // Makes every key of a text different, which keeps every value in the tree.
   std::string Key() {
     return "\"" + OneOf({"", "[", "{", "}", "\\\"", "\\\\", "/*", "//"}) +
            std::to_string(10'000'000 + ++keys_) + "\"";
@@ -73,7 +73,7 @@ class Soup {
         {"1", "-2.5e3", "true", "null", R"("")", R"("[{")", R"("]}\"")", R"("\\")", R"("/*")", R"("é//")"});
   }
 
-  // Behind a value and a comment in an object the reader takes anything for the separator.
+  // After a value and a comment in an object the reader takes anything for the separator.
   std::string Separator() {
     if (Below(4) != 0) return Blank() + "," + Blank();
     return "/**/" + Blank() +
@@ -93,7 +93,7 @@ class Soup {
     return text + (choice == 2 ? "]" : "}");
   }
 
-  // A text with a token dropped, doubled or put in.
+  // Returns the text with a byte dropped or a token inserted.
   std::string Broken(std::string text) {
     const std::size_t at = Below(text.size() + 1);
     if (Below(3) == 0) return text.erase(at, 1);
@@ -148,8 +148,8 @@ TEST(NestingSoupTest, MissesNothingThatTheReaderGoesDownInto) {
     const ReaderResult result = Read(text);
     if (!result.too_deep) continue;
     ++too_deep;
-    // The reader throws before it looks whether a value is there at all; the end puts one there, comment or
-    // not.
+    // The reader throws before it knows whether a value follows. The added end gives it one, inside a comment
+    // or not.
     EXPECT_TRUE(JsonUtil::IsNestedDeeperThan(text + "\n*/1", limit)) << text;
     if (HasFailure()) break;
   }

@@ -1,5 +1,5 @@
-// Payloads nested to the limit and beyond it: the same on every JsonCpp, on a small stack, and no bracket
-// counted that the reader does not take for one.
+// Decodes payloads nested to the limit and beyond it: the result is the same with every JsonCpp and on a
+// small stack, and only brackets that the reader takes for brackets count.
 
 #include <algorithm>
 #include <iostream>
@@ -20,9 +20,8 @@ std::string Repeated(const std::string& text, std::size_t times) {
   return repeated;
 }
 
-// An object with `innermost` at depth `depth`, the arrays and objects between taken in turn from `openings`,
-// such as
-// {"{\"k\":", "["}.
+// Makes an object with `innermost` at depth `depth`. Between them come arrays and objects, opened in turn by
+// each of `openings`.
 std::string Nested(const std::vector<std::string>& openings, const std::string& innermost,
                    std::size_t depth) {
   std::string text = R"({"content":"read","nest":)";
@@ -75,7 +74,7 @@ TEST(NestingTest, BracketsThatOpenNothingDoNotCount) {
   EXPECT_TRUE(Parses(R"({"k":[)" + Repeated("[],{},", 2 * kLimit) + "0]}"));
 }
 
-TEST(NestingTest, WhatStandsBehindTheRootDoesNotCount) {
+TEST(NestingTest, WhatComesAfterTheRootDoesNotCount) {
   EXPECT_TRUE(Parses("{}" + Repeated("[{", 2 * kLimit)));
   EXPECT_TRUE(Parses("{} // " + Repeated("[{", 2 * kLimit)));
   EXPECT_TRUE(Parses("{\"k\":[1]} \"" + Repeated("[{", 2 * kLimit)));
@@ -88,7 +87,7 @@ TEST(NestingTest, TextsThatAreNeverClosedDoNotParse) {
   }
 }
 
-// The kinds with a JSON payload, and what stands behind it in their names.
+// The kinds with a JSON payload, and the text after it in their names.
 std::vector<std::string> TailsOfJsonKinds() {
   std::vector<std::string> tails;
   for (const BubbleKind kind : kBubbleKinds) {
@@ -102,7 +101,7 @@ std::vector<std::string> TailsOfJsonKinds() {
 
 class DeepNameTest : public DecodeTest {
  protected:
-  // The records of the last decode without the payload that some of them hold.
+  // Returns the records of the last decode, with the payload cut out.
   std::vector<SeenRecord> RecordsWithout(const std::string& payload) const {
     std::vector<SeenRecord> without = records();
     for (SeenRecord& record : without) {
@@ -145,7 +144,7 @@ TEST_F(DeepNameTest, MarkerNamesHaveTheSameLimit) {
   EXPECT_NE(out_, nullptr);
 }
 
-// The sanitizers' frames are larger than those that a client runs with.
+// Sanitizers make stack frames larger than a client's.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 constexpr std::size_t kStackSize = 2 << 20;
 #else

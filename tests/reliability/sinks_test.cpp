@@ -1,4 +1,4 @@
-// Sinks and tag filters that misbehave: nothing of it leaves the decode, and the next record is delivered.
+// Tests sinks and tag filters that misbehave: a decode returns as usual and delivers the next record.
 
 #include <stdexcept>
 
@@ -12,7 +12,7 @@ using logging::LoggerInstance;
 using logging::LogLevel;
 using logging::LogRecord;
 
-// Throws at every record for which `fails` says so, and keeps the others.
+// Throws at every record for which `fails` returns true, and keeps the others.
 class FailingSink : public logging::LogSink {
  public:
   explicit FailingSink(std::function<void(int number)> fails) : fails_(std::move(fails)) {}
@@ -49,7 +49,7 @@ class SinksTest : public DecodeTest {
       MapResourceManager::kavrix_resource_prefix + std::string(R"({"content":"c"}.trafficBubble)");
 };
 
-TEST_F(SinksTest, AThrowingSinkCostsItsRecordAlone) {
+TEST_F(SinksTest, AThrowingSinkCostsOnlyItsRecord) {
   const auto sink = std::make_shared<FailingSink>([](int number) {
     if (number == 1) throw std::runtime_error("disk full");
   });
@@ -86,7 +86,7 @@ TEST_F(SinksTest, AnExceptionOfTheDecodeItselfPassesAThrowingSink) {
   EXPECT_THROW(DecodeWhole(".trafficBubble"), std::out_of_range);
 }
 
-TEST_F(SinksTest, AThrowingTagFilterCostsItsRecordAlone) {
+TEST_F(SinksTest, AThrowingTagFilterCostsOnlyItsRecord) {
   const auto sink = std::make_shared<FailingSink>([](int) {});
   int asked = 0;
   Install({sink, LogLevel::kRoutine, [&asked](const std::string&) -> bool {
@@ -132,7 +132,7 @@ TEST_F(SinksTest, ASinkThatDecodesGetsAllRecords) {
   for (const auto& descriptor : sink->decoded) EXPECT_EQ(*descriptor, Base());
 }
 
-// Takes itself away while it writes.
+// Removes itself while it writes.
 class LeavingSink : public logging::LogSink {
  public:
   void Write(const LogRecord&) override {

@@ -1,6 +1,6 @@
 // Eight threads decode names of all kinds while one replaces the configuration and one swaps the log sinks
-// and the instance that records go to. Every descriptor holds values of one configuration. Meant for
-// ThreadSanitizer too: see scripts/test-threads.
+// and the instance that records go to. Every descriptor holds values of only one configuration.
+// scripts/test-threads runs this under ThreadSanitizer.
 
 #include <array>
 #include <atomic>
@@ -17,8 +17,8 @@ namespace {
 
 constexpr int kDecodingThreads = 8;
 
-// Configurations tell themselves apart by every name and every value. Names are long, so that they are not
-// stored inside the strings: a torn copy would show.
+// Makes configurations that differ in every name and every value. The names are too long to be stored inside
+// the string objects, which makes a torn copy visible.
 BubbleLayerConfigContainer ConfigNumber(std::uint32_t number) {
   BubbleLayerConfigContainer config;
   ForEachStyleRecord(config, [number](const char* name, auto& record) {
@@ -29,7 +29,7 @@ BubbleLayerConfigContainer ConfigNumber(std::uint32_t number) {
   return config;
 }
 
-// Counts the records and those that are not whole.
+// Counts the records and those that are cut short.
 class CountingSink : public logging::LogSink {
  public:
   void Write(const logging::LogRecord& record) override {
@@ -87,7 +87,7 @@ class ThreadsTest : public ::testing::Test {
     }
   }
 
-  // Two instances of three have a sink at any time, by turns.
+  // Two of three instances have a sink at any time, in turn.
   void SwapSinks() {
     for (std::uint32_t i = 0; !done_ || sink_swaps_ < swaps_wanted_; ++i, ++sink_swaps_) {
       logging::SetLoggerInstance(i % 3, {sinks_[i % 2], logging::LogLevel::kRoutine, {}});
@@ -106,7 +106,7 @@ class ThreadsTest : public ::testing::Test {
   std::atomic<int> torn_{0};
   std::atomic<bool> done_{false};
   int swaps_wanted_ = 0;
-  int config_swaps_ = 0;  // each written by its thread alone
+  int config_swaps_ = 0;  // each is written only by its thread
   int sink_swaps_ = 0;
 };
 

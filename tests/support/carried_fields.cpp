@@ -17,7 +17,7 @@ std::vector<KeyInfo> KeysOf(const BubbleKindInfo& info) {
   return lister.keys();
 }
 
-// The keys of an object under `path`, such as "cameras[].", with that path cut off.
+// Returns the keys of an object under `path`, such as "cameras[].", without that path.
 std::vector<KeyInfo> KeysUnder(const std::vector<KeyInfo>& keys, const std::string& path) {
   std::vector<KeyInfo> found;
   for (const KeyInfo& key : keys) {
@@ -28,7 +28,7 @@ std::vector<KeyInfo> KeysUnder(const std::vector<KeyInfo>& keys, const std::stri
   return found;
 }
 
-// An absent "mode" of a JSON object counts inverted, that of a list of fields leaves the flag false.
+// An absent "mode" inverts the flag in a JSON object and leaves it false in a list of fields.
 Json::Value DefaultOf(const KeyInfo& key, bool is_json) {
   if (key.type == "text") return "";
   if (key.type.find("array") == 0) return Json::arrayValue;
@@ -94,7 +94,7 @@ bool IsGoodObject(const std::vector<KeyInfo>& keys, const std::string& path, con
   return known == object.size();
 }
 
-// Only whether a traffic bubble outside scene 0 is navigating comes back.
+// Outside scene 0 a traffic bubble keeps only whether it is navigating.
 void MakeNavModeCanonical(Json::Value& fields) {
   if (!fields.isMember("nav_mode")) return;
   const bool navigates = fields["scene"].asInt() == 0 || fields["nav_mode"].asInt() == 1;

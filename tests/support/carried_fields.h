@@ -5,16 +5,17 @@
 
 #include "map_resource/bubble_kinds.h"
 
-// What is known of the fields of a kind's names from the list of its keys only, without its reader or writer.
+// Derives facts about the fields of a kind's names only from its keys and their types, without its reader or
+// writer.
 namespace kavrix::test {
 
 bool IsJsonKind(const BubbleKindInfo& info);
 
-// The fields with every key that they leave out, as a name made of them gives them back.
+// Returns the fields with the keys that they leave out added, as decoding a name built from them gives them.
 Json::Value CompleteFields(const BubbleKindInfo& info, const Json::Value& fields);
 
-// True when the encoder has no reason to refuse them: known keys, the right types, numbers in range, strings
-// that are UTF-8 and, in kinds without JSON, hold no separator and no dot. Others may be refused or not.
+// Returns true when the encoder must accept the fields: known keys, right types, numbers in range, strings
+// that are UTF-8 and, in kinds without JSON, hold no separator and no dot. It may accept others too.
 bool MustBeTaken(const BubbleKindInfo& info, const Json::Value& fields);
 
 }  // namespace kavrix::test

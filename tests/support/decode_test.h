@@ -18,7 +18,7 @@
 
 namespace kavrix::test {
 
-// Counts the snapshots that parsers take.
+// Counts the configuration snapshots that parsers take.
 class CountingContext : public KavrixContext {
  public:
   using KavrixContext::KavrixContext;
@@ -29,10 +29,10 @@ class CountingContext : public KavrixContext {
   mutable int snapshots = 0;
 };
 
-// The word that value `number` of record `record` (1 to 21) holds in a DecodeTest: no two are the same.
+// Returns the word of value `number` of record `record` (1 to 21) in a DecodeTest. No two are the same.
 constexpr std::uint32_t WordOf(std::uint32_t record, std::uint32_t number) { return record * 1000 + number; }
 
-// The float that a cell holds where a kind reads it as one.
+// Returns the float of a cell that a kind reads as a float.
 constexpr float FloatOf(std::uint32_t record, std::uint32_t number) {
   return static_cast<float>(record) * 100 + static_cast<float>(number) + 0.5F;
 }
@@ -52,8 +52,8 @@ class DecodeTest : public ::testing::Test {
     transform_.GetBubbleDrawDescriptor(name, out_);
   }
 
-  // The level of every record that decoding prefix + `rest` writes, with the direction that `out` has by
-  // then.
+  // Decodes prefix + `rest` and returns the level of every record, with the direction of `out` when it was
+  // written.
   std::vector<std::pair<int, int>> DirectionsAtRecords(const std::string& rest) {
     struct Sink : logging::LogSink {
       explicit Sink(const std::shared_ptr<BubbleDrawDescriptor>& descriptor) : out(descriptor) {}
@@ -71,7 +71,7 @@ class DecodeTest : public ::testing::Test {
     return sink->seen;
   }
 
-  // What `out` holds, as the type that it must have.
+  // Returns `out` as the type that it must have.
   template <class Descriptor>
   const Descriptor& Out() const {
     const auto* const descriptor = dynamic_cast<const Descriptor*>(out_.get());
@@ -80,7 +80,7 @@ class DecodeTest : public ::testing::Test {
   }
   const BubbleDrawDescriptor& Base() const { return Out<BubbleDrawDescriptor>(); }
 
-  // The record that the dispatcher writes first for every name.
+  // Returns the record that the dispatcher writes first for every name.
   SeenRecord Request() const {
     return Routine("KavrixMapLayerMgr", "GetBubbleDrawDescriptor", "resource_name:" + name_);
   }
@@ -91,7 +91,7 @@ class DecodeTest : public ::testing::Test {
     return {1, tag, function, "[Kavrix][ctx]" + message};
   }
 
-  // What a descriptor prints inside a record.
+  // Returns the descriptor as it is printed in a record.
   template <class Descriptor>
   static std::string Printed(const Descriptor& descriptor) {
     std::ostringstream stream;

@@ -5,23 +5,23 @@
 #include <random>
 #include <string>
 
-// How much a test that could go on for long does. Set by the environment, which reaches tests that ctest runs
-// too.
+// Limits tests that could run for long. Environment variables set the limits, because they also reach tests
+// that ctest runs.
 namespace kavrix::test {
 
-// KAVRIX_TEST_COMPLETE=1: every case instead of a sample of them.
+// Returns whether KAVRIX_TEST_COMPLETE=1 asks for every case instead of a sample.
 inline bool IsComplete() {
   const char* const value = std::getenv("KAVRIX_TEST_COMPLETE");
   return value != nullptr && std::string(value) == "1";
 }
 
-// KAVRIX_TEST_SEED=N repeats what a run with that seed drew; else each run draws its own.
+// Returns the seed that KAVRIX_TEST_SEED=N gives, to repeat a run, else a new one for each run.
 inline unsigned Seed() {
   const char* const value = std::getenv("KAVRIX_TEST_SEED");
   return value != nullptr ? static_cast<unsigned>(std::stoul(value)) : std::random_device()();
 }
 
-// What a failing test prints with its message.
+// Returns the hint that a failing test prints.
 inline std::string HowToRepeat(unsigned seed) {
   return "repeat with KAVRIX_TEST_SEED=" + std::to_string(seed);
 }

@@ -6,8 +6,7 @@
 
 namespace kavrix::test {
 
-// While it lives the process's global C++ locale writes and reads 1234.5 as "1.234,5". Needs no locale of the
-// system.
+// Makes the global C++ locale write and read 1234.5 as "1.234,5" while it lives. Needs no installed locale.
 class GlobalLocale {
  public:
   GlobalLocale() : earlier_(std::locale::global(std::locale(std::locale::classic(), new Punctuation))) {}

@@ -6,18 +6,18 @@
 
 #include "map_resource/bubble_kinds.h"
 
-// The golden file of a kind holds what "decode --format json" prints for its names, a line each.
+// A kind's golden file holds the output of "decode --format json" for its names, one line each.
 namespace kavrix::test {
 
-// Set by the test runner's --update-goldens.
+// The test runner's --update-goldens sets it.
 extern bool update_goldens;
 
 std::string GoldenPath(const BubbleKindInfo& info);
 
-// The names of a kind's golden file.
+// Returns the names in a kind's golden file.
 std::vector<std::string> GoldenNames(const BubbleKindInfo& info);
 
-// The names of all bubble kinds, without marker names.
+// Returns the golden names of all bubble kinds, without marker names.
 std::vector<std::string> BubbleGoldenNames();
 
 }  // namespace kavrix::test

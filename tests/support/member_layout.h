@@ -8,14 +8,14 @@
 
 namespace kavrix::test {
 
-// The member as it came; it does not compile with another type.
+// Returns the member; does not compile if it has another type.
 template <class Type, class Member, class Owner>
 constexpr Member Owner::*Is(Member Owner::*member) {
   static_assert(std::is_same_v<Member, Type>, "the member has another type");
   return member;
 }
 
-// Where the first byte after a member lies, counted from the beginning of its object.
+// Returns the offset of the first byte after a member in its object.
 template <class Object, class Member, class Owner>
 std::size_t EndOf(Member Owner::*member, const Object& object) {
   const auto* const first = reinterpret_cast<const std::byte*>(&object);

@@ -8,8 +8,8 @@
 
 namespace kavrix {
 
-// Found by googletest: a comparison that fails shows all members of the object, whatever type it was compared
-// as, and tells floats apart that are not equal.
+// googletest calls it to show all members of the object when a comparison fails, even one through the base
+// type. It prints floats that are not equal differently.
 inline void PrintTo(const BubbleDrawDescriptor& descriptor, std::ostream* stream) {
   const std::streamsize precision = stream->precision(std::numeric_limits<float>::max_digits10);
   WriteAllMembers(*stream, descriptor);

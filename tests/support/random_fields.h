@@ -11,8 +11,8 @@
 
 namespace kavrix::test {
 
-// Fills what names of a kind carry with values that lean to the awkward: extremes, separators, markers,
-// escapes. Every value is one that the kind's encoder takes.
+// Makes fields for names of a kind, with many awkward values: extremes, separators, markers, escapes. The
+// kind's encoder accepts every value.
 class RandomFields {
  public:
   explicit RandomFields(unsigned seed) : random_(seed) {}
@@ -20,7 +20,7 @@ class RandomFields {
   Json::Value Make(const BubbleKindInfo& info);
 
  private:
-  // The keys of `lister` under `path`, such as "cameras[].".
+  // Makes an object of the keys of `lister` under `path`, such as "cameras[].".
   Json::Value Object(const KeyLister& lister, const std::string& path, bool is_json);
   Json::Value Value(const KeyLister& lister, const KeyInfo& key, bool is_json);
 

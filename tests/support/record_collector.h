@@ -34,7 +34,7 @@ class RecordCollector {
   RecordCollector& operator=(const RecordCollector&) = delete;
   ~RecordCollector() { logging::SetLoggerInstance(logging::kavrix_log_instance_id_, {}); }
 
-  // Once more, after something else was.
+  // Installs it again, after something else was installed.
   void Install() {
     logging::SetLoggerInstance(logging::kavrix_log_instance_id_, {sink_, logging::LogLevel::kRoutine, {}});
   }

@@ -12,7 +12,7 @@ struct SampleName {
   std::string name;
 };
 
-// The names in samples/, of every kind.
+// Returns the names in samples/, of every kind.
 std::vector<SampleName> SampleNames();
 
 }  // namespace kavrix::test

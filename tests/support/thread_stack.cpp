@@ -18,7 +18,7 @@ void* Run(void* work) {
   return nullptr;
 }
 
-// Memory with a page below that traps.
+// Memory below which a guard page traps.
 class Stack {
  public:
   explicit Stack(std::size_t size) : page_(static_cast<std::size_t>(sysconf(_SC_PAGESIZE))), size_(size) {

@@ -6,8 +6,8 @@
 
 namespace kavrix::test {
 
-// Runs `work` on a thread of its own with a stack of `size` bytes, behind which nothing can be written, and
-// returns how much of it was used, the thread's own start included.
+// Runs `work` on a new thread with a stack of `size` bytes and a guard page below. Returns how many bytes of
+// the stack were used, including the thread's own start.
 std::size_t StackUsedOnThread(std::size_t size, const std::function<void()>& work);
 
 }  // namespace kavrix::test

@@ -14,7 +14,7 @@
 namespace kavrix::test {
 namespace {
 
-// A file that is gone with the object; its path goes to the child.
+// A file for the child process, deleted with the object.
 class TemporaryFile {
  public:
   explicit TemporaryFile(const std::string& text = "") {

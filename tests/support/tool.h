@@ -9,7 +9,7 @@
 namespace kavrix::test {
 
 struct ToolResult {
-  int status = -1;  // exit status; -1 when a signal ended the tool
+  int status = -1;  // exit status; -1 if a signal ended the tool
   std::string output;
   std::string errors;
 
@@ -20,7 +20,7 @@ struct ToolResult {
 // Runs the real tool as a process, without a terminal.
 ToolResult RunTool(const std::vector<std::string>& arguments, const std::string& input = "");
 
-// The same through a shell command in which $TOOL is the tool, for pipes and redirections.
+// Runs a shell command in which $TOOL is the tool, for pipes and redirections.
 ToolResult RunShell(const std::string& command);
 
 }  // namespace kavrix::test

@@ -5,8 +5,8 @@
 
 namespace kavrix::test {
 
-// What holds for every kind whose descriptor finds its JSON object in the whole name. `Kind` has the marker
-// as kMarker and the descriptor's type as Descriptor.
+// Tests every kind whose descriptor finds its JSON object in the whole name. `Kind` has the marker as kMarker
+// and the descriptor's type as Descriptor.
 template <class Kind>
 class WholeNameBubbleTest : public DecodeTest {
  protected:
@@ -42,7 +42,7 @@ TYPED_TEST_P(WholeNameBubbleTest, NameWithoutAReadableObjectGivesANewDescriptorA
   }
 }
 
-TYPED_TEST_P(WholeNameBubbleTest, ModeZeroAloneSetsTheFlagAndAnAbsentOrMistypedOneInvertsIt) {
+TYPED_TEST_P(WholeNameBubbleTest, OnlyModeZeroSetsTheFlagAndAnAbsentOrMistypedOneInvertsIt) {
   EXPECT_TRUE(this->DecodeOne(R"({"mode":0})").mode_flag);
   EXPECT_FALSE(this->DecodeOne(R"({"mode":1})").mode_flag);
   EXPECT_FALSE(this->DecodeOne(R"({"mode":-1})").mode_flag);
@@ -71,7 +71,7 @@ TYPED_TEST_P(WholeNameBubbleTest, NameWithoutThePrefixIsReadAsWell) {
   EXPECT_EQ(this->Base().scene, 3);
 }
 
-TYPED_TEST_P(WholeNameBubbleTest, TextAroundTheObjectIsPassedOver) {
+TYPED_TEST_P(WholeNameBubbleTest, TextAroundTheObjectIsIgnored) {
   EXPECT_EQ(this->DecodeOne(R"(12@{"scene":3}@7)").scene, 3);
 }
 
@@ -86,10 +86,10 @@ TYPED_TEST_P(WholeNameBubbleTest, InitWithJsonTellsWhetherItFoundAnObject) {
 REGISTER_TYPED_TEST_SUITE_P(WholeNameBubbleTest, KindCodeStaysZeroAndNoStyleIsRead,
                             NothingIsLoggedBesideTheRequest,
                             NameWithoutAReadableObjectGivesANewDescriptorAsConstructed,
-                            ModeZeroAloneSetsTheFlagAndAnAbsentOrMistypedOneInvertsIt,
+                            OnlyModeZeroSetsTheFlagAndAnAbsentOrMistypedOneInvertsIt,
                             ForceCountsOnlyWhenOneAndUnderItsKeyWithTheUnderscore,
                             TypeAndDirectionAreNarrowedTo16Bits, BracesInsideTextsBelongToTheText,
-                            NameWithoutThePrefixIsReadAsWell, TextAroundTheObjectIsPassedOver,
+                            NameWithoutThePrefixIsReadAsWell, TextAroundTheObjectIsIgnored,
                             InitWithJsonTellsWhetherItFoundAnObject);
 
 }  // namespace kavrix::test

@@ -6,7 +6,7 @@
 
 #include "tests/support/tool.h"
 
-// Which files --config reads, and which it refuses.
+// Tests which files --config reads and which it refuses.
 namespace kavrix::test {
 namespace {
 
@@ -15,7 +15,7 @@ using ::testing::HasSubstr;
 const std::string kName = "kavrix://resource/{}.markerBubble";
 const std::string kConfig = R"({"marker_bubble":{"name":"configured"}})";
 
-// Decodes one name under what `source` writes into the pipe that is the configuration.
+// Decodes one name with a pipe for --config, into which `source` writes.
 ToolResult DecodeUnderPipe(const std::string& source) {
   return RunShell(source + " | \"$TOOL\" decode --config /dev/stdin '" + kName + "'");
 }

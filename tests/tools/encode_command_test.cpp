@@ -34,7 +34,7 @@ TEST(EncodeCommandTest, WithKindTakesFieldsFromArgumentsOrLines) {
   EXPECT_EQ(RunTool({"encode", "--kind", "turnBubble"}, R"({"distance":5})").output, expected);
 }
 
-// The near-misses, each refused in a line of its own while the others go on.
+// Near-misses: each is refused in a line of its own, and the others are still encoded.
 TEST(EncodeCommandTest, RefusesWhatNamesCannotCarryAndGoesOn) {
   struct NearMiss {
     const char* line;

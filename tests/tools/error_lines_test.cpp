@@ -7,7 +7,7 @@
 #include "tests/support/tool.h"
 #include "util/utf8.h"
 
-// Whatever text of others a message holds, it stays on its line and leaves the terminal as it is.
+// Tests that an error message keeps to its line and cannot control the terminal, even where it quotes input.
 namespace kavrix::test {
 namespace {
 
@@ -31,7 +31,7 @@ class EvilFile {
   std::string path_ = "/tmp/kavrix_test_" + std::to_string(getpid()) + kEvil;
 };
 
-// Trouble told in one line and, for usage errors, the hint at --help.
+// Expects one line of error and, for usage errors, the hint at --help.
 void ExpectOneHarmlessLine(const ToolResult& result) {
   std::string line = result.errors.substr(0, result.errors.find('\n'));
   EXPECT_THAT(line, StartsWith("kavrix-resource: "));

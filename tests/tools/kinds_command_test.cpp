@@ -34,7 +34,7 @@ TEST(KindsCommandTest, TellsWhatANameOfAKindCarries) {
     "sample": "kavrix://resource/Home|12 min_0_x_0@3.etaBubble"})"));
 }
 
-// What each kind tells about itself must be what decoding its sample shows.
+// The facts of each kind must agree with its decoded sample.
 TEST(KindsCommandTest, TypeKindCodeAndSampleAgreeWithTheDecoder) {
   for (const auto& kind : RunTool({"kinds"}).JsonLines()) {
     const bool is_marker_name = kind.at("kind") == "marker";

@@ -20,7 +20,7 @@ struct Batch {
   int result = -1;
 };
 
-// Counts from 0 and collects what comes out at the other end.
+// Takes the numbers from 0 and collects those that are put.
 class OrderedPipelineTest : public ::testing::TestWithParam<int> {
  protected:
   bool Take(Batch& batch) {

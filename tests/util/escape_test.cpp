@@ -18,7 +18,7 @@ std::string Quoted(std::string_view text) {
   return line;
 }
 
-// The text that an escaped one stands for.
+// Undoes the escapes of a text.
 std::string Unescaped(std::string_view line) {
   std::string text;
   for (std::size_t i = 0; i < line.size(); ++i) {

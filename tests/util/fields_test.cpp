@@ -65,7 +65,7 @@ TEST(LeadingIntTest, ValueBeyond64BitsIsHeldAtTheEndOfThatRangeFirst) {
   EXPECT_EQ(LeadingInt("-99999999999999999999"), 0);
 }
 
-// Texts of resource names are parts of these, with no NUL after them.
+// Fields are parts of a resource name, with no NUL after them.
 TEST(IntegersTest, NothingAfterTheTextIsRead) {
   EXPECT_EQ(LeadingInt(std::string_view("1234").substr(0, 2)), 12);
   EXPECT_EQ(LeadingInt(std::string_view(" +34").substr(0, 3)), 3);

@@ -8,7 +8,7 @@
 namespace kavrix::test {
 namespace {
 
-// Of a copy with no byte behind it, which the sanitizers watch.
+// Scans a copy with no byte after it; the sanitizers see a read past its end.
 bool IsNestedDeeperThan(const std::string& text, std::size_t limit) {
   const std::vector<char> bytes(text.begin(), text.end());
   return JsonUtil::IsNestedDeeperThan({bytes.data(), bytes.size()}, limit);

@@ -22,7 +22,7 @@ namespace {
 
 using namespace std::string_literals;
 
-// The message of the error, empty when there is none.
+// Returns the message of the error, empty when there is none.
 std::string ErrorOf(const std::string& text) {
   try {
     JsonUtil::ReadStrictly(text);
@@ -165,7 +165,7 @@ TEST(StrictJsonTest, ExcerptIsCutBetweenCharacters) {
   EXPECT_EQ(Excerpt("a" + times(60, "前")), "a" + times(59, "前") + "...");
 }
 
-// The nearest float in the one place where it shows: between the largest float and the first that is none.
+// Tests the nearest float where it matters: between the largest float and the first value that is too large.
 TEST(NearestFloatTest, TheMiddleAboveTheLargestFloatDecides) {
   constexpr float kMax = std::numeric_limits<float>::max();
   constexpr float kInfinity = std::numeric_limits<float>::infinity();
@@ -178,7 +178,7 @@ TEST(NearestFloatTest, TheMiddleAboveTheLargestFloatDecides) {
   EXPECT_EQ(JsonUtil::NearestFloat("-3.4028235e38"), -kMax);
 }
 
-// One rounding, not one to a double and one to a float.
+// The value is rounded once to a float, not first to a double.
 TEST(NearestFloatTest, NumbersNextToAMiddleAreRoundedOnce) {
   EXPECT_EQ(JsonUtil::NearestFloat("1.00000005960464477539062500000000000000001"),
             1.00000011920928955078125F);
@@ -230,8 +230,8 @@ TEST(StrictJsonTest, NoGlobalLocaleChangesWhatIsRead) {
             "Line 2001, Column 1502: expected a value, found the end");
 }
 
-// What a strict reader by somebody else says, which takes a byte order mark, a NUL as the end, keys twice and
-// any root.
+// Returns the verdict of another strict reader. It also accepts a byte order mark, a NUL as the end,
+// duplicate keys and any root.
 bool OtherReaderAccepts(const std::string& text) {
   if (text.rfind("\xEF\xBB\xBF", 0) == 0 || text.find('\0') != std::string::npos) return false;
   bool key_twice = false;
@@ -266,7 +266,7 @@ nlohmann::json ToOther(const Json::Value& value) {
   return value.isNull() ? nlohmann::json() : nlohmann::json(value.asInt64());
 }
 
-// The other reader refuses what no double holds.
+// The other reader refuses numbers that no double holds.
 bool HoldsInfinity(const nlohmann::json& value) {
   if (value.is_structured()) return std::any_of(value.begin(), value.end(), HoldsInfinity);
   return value.is_number_float() && std::isinf(value.get<double>());

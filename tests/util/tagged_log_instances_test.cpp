@@ -14,7 +14,7 @@
 #include "map_resource/map_resource_transform.h"
 #include "util/tagged_log.h"
 
-// Several log instances, installed, exchanged and removed while others log.
+// Tests several log instances, installed, exchanged and removed while other threads log.
 namespace kavrix::test {
 namespace {
 
@@ -36,7 +36,7 @@ class FunctionSink : public logging::LogSink {
   std::function<void(const std::string&)> write_;
 };
 
-// Asks in its destructor whether another thread can install an instance meanwhile.
+// Counts in its destructor whether another thread can install an instance meanwhile.
 class InstallsWhenDestroyed {
  public:
   explicit InstallsWhenDestroyed(int& installed) : installed_(installed) {}
@@ -84,7 +84,7 @@ class TaggedLogInstancesTest : public ::testing::Test {
   std::shared_ptr<KavrixContext> context_ = std::make_shared<KavrixContext>("ctx");
 };
 
-TEST_F(TaggedLogInstancesTest, RecordsGoToTheCurrentInstanceAlone) {
+TEST_F(TaggedLogInstancesTest, RecordsGoOnlyToTheCurrentInstance) {
   SetLoggerInstance(kFirst, {SinkInto(first_), LogLevel::kRoutine, {}});
   SetLoggerInstance(kSecond, {SinkInto(second_), LogLevel::kRoutine, {}});
   Say("a");
@@ -154,7 +154,7 @@ TEST_F(TaggedLogInstancesTest, RecordBegunBeforeAReplacementReachesTheOldSink) {
   EXPECT_THAT(second_, IsEmpty());
 }
 
-TEST_F(TaggedLogInstancesTest, SinkThatThrowsCostsItsRecordAlone) {
+TEST_F(TaggedLogInstancesTest, SinkThatThrowsCostsOnlyItsRecord) {
   int writes = 0;
   SetLoggerInstance(kFirst, {std::make_shared<FunctionSink>([&](const std::string&) {
                                ++writes;

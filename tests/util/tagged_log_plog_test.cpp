@@ -100,7 +100,7 @@ TEST_F(TaggedLogPlogTest, PlogLoggerWithoutASeverityPassesNothingOn) {
   EXPECT_THAT(appender_.messages, IsEmpty());
 }
 
-TEST_F(TaggedLogPlogTest, AppenderThatThrowsCostsItsRecordAlone) {
+TEST_F(TaggedLogPlogTest, AppenderThatThrowsCostsOnlyItsRecord) {
   struct Throwing : plog::IAppender {
     void write(const plog::Record&) override { throw std::runtime_error("disk full"); }
   } appender;

@@ -40,10 +40,10 @@ struct Context {
   std::string context_name = "ctx";
 };
 
-// More than any string holds: what appends it throws before it reads it.
+// Longer than any string can be: appending it throws before reading it.
 const std::string_view kTooLong("x", std::string().max_size());
 
-// Of a client's own: saves the stream's format in the customary way.
+// A client's inserter that saves and restores the stream's format in the usual way.
 struct ClientType {};
 std::ostream& operator<<(std::ostream& stream, const ClientType&) {
   std::ios saved(nullptr);
@@ -53,7 +53,7 @@ std::ostream& operator<<(std::ostream& stream, const ClientType&) {
   return stream << ' ' << 255;
 }
 
-// A class that logs the way the transform does: through its `context_`.
+// Logs as the transform does, through its `context_`.
 class Speaker {
  public:
   explicit Speaker(std::string context_name = "ctx") { context_->context_name = std::move(context_name); }
@@ -207,7 +207,7 @@ TEST_F(TaggedLogTest, LeastLevelFailureLeavesRoutineRecordsOut) {
   EXPECT_THAT(sink_->messages, ElementsAre("[Kavrix][ctx]b"));
 }
 
-TEST_F(TaggedLogTest, TagFilterLetsItsTagsPassAlone) {
+TEST_F(TaggedLogTest, TagFilterLetsOnlyItsTagsPass) {
   Install(LogLevel::kRoutine, [](const std::string& tag) { return tag == "Speaker_Other"; });
   speaker_.SayRoutine("a");
   speaker_.SayUnderAnotherTag();

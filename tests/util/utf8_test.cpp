@@ -87,7 +87,7 @@ TEST(ToValidUtf8Test, SurrogatesOverlongFormsAndTooLargeNumbersAreReplacedByteBy
   EXPECT_EQ(ToValidUtf8("\xF4\x90\x80\x80"), FFFD FFFD FFFD FFFD);
 }
 
-// The sequence of the Unicode Standard's own example of replacement by maximal subparts.
+// The Unicode Standard's example of replacement by maximal subparts.
 TEST(ToValidUtf8Test, MixedSequenceIsReplacedByMaximalSubparts) {
   EXPECT_EQ(ToValidUtf8("\x61\xF1\x80\x80\xE1\x80\xC2\x62\x80\x63\x80\xBF\x64"),
             "a" FFFD FFFD FFFD "b" FFFD "c" FFFD FFFD "d");

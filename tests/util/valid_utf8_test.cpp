@@ -5,7 +5,7 @@
 namespace kavrix::test {
 namespace {
 
-// What the length has to agree with: the text, taken apart piece by piece.
+// Computes the expected length piece by piece.
 std::size_t ValidLengthByPieces(std::string_view text) {
   std::size_t length = 0;
   while (length < text.size() && NextUtf8(text.substr(length)).is_valid) {

@@ -1,5 +1,5 @@
-// Every allocation of a descriptor's text fails once: the exception reaches the caller, and nothing of the
-// text the stream.
+// Fails every allocation of a printed descriptor once: the exception reaches the caller, and the stream gets
+// nothing.
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,7 @@
 namespace kavrix::test {
 namespace {
 
-// Takes any text without memory of its own.
+// Accepts any output without allocating.
 class CountingBuffer : public std::streambuf {
  public:
   std::streamsize bytes = 0;
@@ -26,7 +26,7 @@ class CountingBuffer : public std::streambuf {
   }
 };
 
-// How many allocations the text needs.
+// Prints the descriptor once for each of its allocations and lets that one fail. Returns how many there are.
 std::size_t FailEach(const BubbleDrawDescriptor& descriptor, std::ios_base::fmtflags notation) {
   for (std::size_t n = 1;; ++n) {
     CountingBuffer buffer;

@@ -1,7 +1,7 @@
-// Every allocation of a decode fails once, alone and with all that follow, for names of every kind, good and
-// broken, with logs on and off. std::bad_alloc leaves the call, or JsonCpp finds the payload unreadable; the
-// records written until then are those of an undisturbed decode, at most the last one cut short; nothing
-// leaks.
+// Fails every allocation of a decode once, by itself and together with all later ones, for names of every
+// kind, good and broken, with logs on and off. std::bad_alloc leaves the call, or JsonCpp finds the payload
+// unreadable. The records written until then are those of an undisturbed decode, the last one possibly cut
+// short. Nothing leaks.
 
 #include <gtest/gtest.h>
 
@@ -25,7 +25,7 @@ namespace {
 
 using Records = std::vector<SeenRecord>;
 
-// Keeps the records. Works when nothing can be allocated.
+// Keeps the records, even when nothing can be allocated.
 class RecordSink : public logging::LogSink {
  public:
   void Write(const logging::LogRecord& record) override {
@@ -41,12 +41,12 @@ class RecordSink : public logging::LogSink {
 struct Outcome {
   Failing failing;
   bool allocation_failed = false;
-  std::string exception;  // its type; empty when none left the call
+  std::string exception;  // its type; empty without one
   std::shared_ptr<BubbleDrawDescriptor> out;
   Records records;
 };
 
-// What a decode gives when no allocation fails.
+// The outcomes of a decode in which no allocation fails.
 struct Undisturbed {
   Outcome good;
   Outcome unreadable;  // of the same name, if JsonCpp could not read its payload
@@ -67,7 +67,7 @@ bool IsCutShort(const SeenRecord& record, SeenRecord whole) {
   return record == whole;
 }
 
-// Whether the records are the first of `whole`, the last of them perhaps cut short.
+// Returns whether the records are the first of `whole`, the last of them possibly cut short.
 bool AreFirstOf(const Records& records, const Records& whole) {
   if (records.size() > whole.size()) return false;
   for (std::size_t i = 0; i < records.size(); ++i) {
@@ -91,7 +91,7 @@ class FailingAllocationTest : public ::testing::TestWithParam<bool> {
   }
   ~FailingAllocationTest() override { logging::SetLoggerInstance(0, {}); }
 
-  // Counts from 1; 0 lets none fail.
+  // Decodes while allocation number `failing_allocation`, counted from 1, fails; 0 lets none fail.
   Outcome Decode(const SampleName& sample, std::size_t failing_allocation, Failing failing) {
     Outcome outcome;
     outcome.failing = failing;
@@ -113,7 +113,8 @@ class FailingAllocationTest : public ::testing::TestWithParam<bool> {
     return outcome;
   }
 
-  // The last brace of a payload makes it readable. Names without one give what they always give.
+  // Decodes the name with its last brace spoilt, which makes the payload unreadable. A name without a brace
+  // decodes as always.
   Outcome DecodeAsUnreadable(const SampleName& sample) {
     constexpr char kUnreadable = '\x01';
     SampleName broken = sample;
@@ -127,7 +128,7 @@ class FailingAllocationTest : public ::testing::TestWithParam<bool> {
     return outcome;
   }
 
-  // The descriptor may lack what was not read yet, but it is one: all its members can be read.
+  // Returns whether all members of the descriptor can be read. Keys not read yet may be missing.
   static bool IsWhole(const BubbleDrawDescriptor& descriptor, const std::string& type) {
     return descriptor.TypeName() == type && descriptor == descriptor;
   }
@@ -138,7 +139,7 @@ class FailingAllocationTest : public ::testing::TestWithParam<bool> {
     return kind ? InfoOf(*kind).descriptor_type : "";
   }
 
-  // Of a decode that an allocation failed in.
+  // Checks the outcome of a decode in which an allocation failed.
   void Check(const Outcome& outcome, const SampleName& sample, const Undisturbed& undisturbed) {
     if (outcome.exception != typeid(std::bad_alloc).name())
       return CheckUnnoticed(outcome, sample, undisturbed);
@@ -153,8 +154,8 @@ class FailingAllocationTest : public ::testing::TestWithParam<bool> {
       ++cut_short_;
   }
 
-  // JsonCpp takes a failed allocation for a payload that it cannot read, and an exception on its way needs no
-  // memory. Everything else has to notice.
+  // Checks the outcome of a decode that std::bad_alloc did not leave. Only JsonCpp may hide a failed
+  // allocation: it takes the payload for unreadable. An exception already on its way needs no memory.
   void CheckUnnoticed(const Outcome& outcome, const SampleName& sample, const Undisturbed& undisturbed) {
     ++unnoticed_;
     EXPECT_TRUE(AreEqual(outcome, undisturbed.unreadable));
@@ -181,7 +182,7 @@ class FailingAllocationTest : public ::testing::TestWithParam<bool> {
   }
 
   const std::shared_ptr<BubbleDrawDescriptor> earlier_ = std::make_shared<BubbleDrawDescriptor>();
-  // Its name makes every message longer than what a record has room for at first.
+  // Its long name makes every message longer than the initial buffer of a record.
   const std::shared_ptr<KavrixContext> context_ = std::make_shared<KavrixContext>(std::string(500, 'c'));
   MapResourceTransform transform_{context_};
   const std::shared_ptr<RecordSink> sink_ = std::make_shared<RecordSink>();
@@ -190,8 +191,8 @@ class FailingAllocationTest : public ::testing::TestWithParam<bool> {
   std::size_t unnoticed_ = 0;  // failures that JsonCpp took for an unreadable payload
 };
 
-// The instrument itself (the pointers are volatile so that no compiler leaves the calls out): both ways to
-// allocate fail when they should, and what is not freed is seen.
+// Tests malloc_control itself: both ways to allocate fail when they should, and what is not freed is counted.
+// The pointers are volatile so that no compiler drops the calls.
 TEST(MallocControlTest, FailsTheAllocationAskedFor) {
   for (const Failing failing : {Failing::kOnce, Failing::kFromThenOn}) {
     FailAllocation(2, failing);
@@ -228,7 +229,7 @@ std::string Repeated(const std::string& text, int times) {
   return repeated;
 }
 
-// The samples, each also cut short by its last brace, and names that fail for other reasons.
+// Returns the samples, each also without its last brace, and names that fail for other reasons.
 std::vector<SampleName> Names() {
   std::vector<SampleName> names = SampleNames();
   for (std::size_t i = names.size(); i-- > 0;) {
@@ -257,7 +258,7 @@ std::vector<SampleName> Names() {
 TEST_P(FailingAllocationTest, HarmsNothing) {
   const std::vector<SampleName> names = Names();
   for (const SampleName& name : names)
-    Decode(name, 0, Failing::kOnce);  // what the libraries make on first use
+    Decode(name, 0, Failing::kOnce);  // lets the libraries allocate what they keep
   std::size_t failures = 0;
   for (const SampleName& name : names) {
     for (const Failing failing : {Failing::kOnce, Failing::kFromThenOn}) {

@@ -1,5 +1,5 @@
-// Every allocation of a log statement fails once, alone and with all that follow, whatever way the message is
-// written: the exception leaves the statement, and the record holds what was written before.
+// Fails every allocation of a log statement once, by itself and together with all later ones, for each way to
+// write a message: the exception leaves the statement, and the record holds what was written before.
 
 #include <gtest/gtest.h>
 
@@ -18,7 +18,7 @@ namespace {
 
 using logging::LogLevel;
 
-// Keeps the messages. Works when nothing can be allocated.
+// Keeps the messages, even when nothing can be allocated.
 class MessageSink : public logging::LogSink {
  public:
   void Write(const logging::LogRecord& record) override {
@@ -28,7 +28,7 @@ class MessageSink : public logging::LogSink {
   std::vector<std::string> messages;
 };
 
-// An inserter of the client's own.
+// A client's type with an operator<<.
 struct ClientType {
   std::string text;
   double number;
@@ -90,7 +90,7 @@ class FailingMessageTest : public ::testing::TestWithParam<Way> {
   FailingMessageTest() { logging::SetLoggerInstance(0, {sink_, LogLevel::kRoutine, {}}); }
   ~FailingMessageTest() override { logging::SetLoggerInstance(0, {}); }
 
-  // Often enough for the message to grow while it is being written this way.
+  // Writes often enough for the message to grow.
   struct Repeated {
     const Way& way;
     friend std::ostream& operator<<(std::ostream& stream, const Repeated& repeated) {
@@ -100,7 +100,7 @@ class FailingMessageTest : public ::testing::TestWithParam<Way> {
   };
   void Say() { KAVRIX_LOG(LogTagATagThatNeedsMemory, LogLevel::kRoutine, Repeated{GetParam()} << "end"); }
 
-  // Whether an allocation failed at all.
+  // Logs while the n-th allocation fails. Returns whether an allocation failed at all.
   bool SayWhileAllocationFails(std::size_t nth, Failing failing) {
     bool is_out_of_memory = false;
     FailAllocation(nth, failing);

@@ -4,7 +4,7 @@
 
 #include <cerrno>
 
-// What the C library's own allocation functions are called inside it.
+// The C library's own names of its allocation functions.
 extern "C" {
 void* __libc_malloc(std::size_t size);
 void* __libc_calloc(std::size_t count, std::size_t size);

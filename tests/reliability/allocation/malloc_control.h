@@ -3,19 +3,19 @@
 
 #include <cstddef>
 
-// Stands in front of the C library's malloc, and so of operator new and of what JsonCpp stores its texts
-// with: counts, and fails on demand. For programs of one thread.
+// Replaces the C library's malloc, and with it operator new and the allocations of JsonCpp's strings. Counts
+// allocations and fails them on demand. For programs of one thread.
 namespace kavrix::test {
 
 enum class Failing { kOnce, kFromThenOn };
 
-// Lets the n-th allocation from now on fail, the next being the first.
+// Lets the n-th allocation from now on fail, by itself or with all later ones; 1 is the next.
 void FailAllocation(std::size_t nth, Failing failing);
 
-// Ends that. Returns whether an allocation failed since.
+// Ends the effect of FailAllocation. Returns whether an allocation failed since.
 bool EndFailing();
 
-// While one lives, no allocation fails and none counts towards the n-th.
+// Keeps allocations from failing and from counting while it lives.
 class FailingSuspended {
  public:
   FailingSuspended();
@@ -27,7 +27,7 @@ class FailingSuspended {
   bool was_armed_;
 };
 
-// What is allocated and not freed, and the most bytes that were so at once since RestartPeak.
+// Allocations and bytes not freed, and the most bytes not freed at once since RestartPeak.
 std::size_t LiveAllocations();
 std::size_t LiveBytes();
 std::size_t PeakBytes();

@@ -1,5 +1,5 @@
-// How much memory a decode takes for names made to take much, as a multiple of the name's length; and how its
-// time grows with that length, which is printed and not judged.
+// Measures the memory that a decode takes for names made to take much, as a multiple of the name's length,
+// and limits it. Prints how the time grows with the length, without a limit.
 
 #include <gtest/gtest.h>
 
@@ -18,10 +18,10 @@
 namespace kavrix::test {
 namespace {
 
-// The most memory that a name may take on top of its own, in multiples of its length.
+// The most memory that a decode may take, in multiples of the name's length.
 constexpr double kMostMultiple = 256;
 
-// A name of `head`, `piece` until it is long enough, and `tail`.
+// The parts of a long name: `head`, many copies of `piece`, `tail`.
 struct Shape {
   const char* what;
   std::string head;
@@ -59,7 +59,7 @@ std::string NameOf(const Shape& shape, std::size_t length) {
   return name + shape.tail;
 }
 
-// Takes the records and forgets them.
+// Drops the records.
 class NoSink : public logging::LogSink {
   void Write(const logging::LogRecord&) override {}
 };
@@ -92,7 +92,7 @@ class MemoryTest : public ::testing::TestWithParam<bool> {
   ~MemoryTest() override { logging::SetLoggerInstance(0, {}); }
 };
 
-// What grows by doubling has its worst moments between one power of two and the next.
+// Tries lengths over one doubling, because memory that grows by doubling peaks somewhere within it.
 double WorstMultiple(const Shape& shape) {
   double worst = 0;
   for (double length = 100'000; length < 200'000; length *= 1.05) {

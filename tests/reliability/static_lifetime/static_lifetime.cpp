@@ -1,6 +1,5 @@
-// Decodes, encodes and loads a configuration before main, in it and after it, each time with the log sink
-// that was installed first. What runs after main comes when every static object that the library made in
-// between is destroyed.
+// Decodes, encodes and loads a configuration before, in and after main, each time with the log sink that was
+// installed first. The part after main runs once every static object that the library made is destroyed.
 
 #include <cstdio>
 #include <cstdlib>
@@ -22,7 +21,7 @@ class KeepingSink : public logging::LogSink {
   std::vector<std::string> messages;
 };
 
-// Uses the library and ends the process where something is wrong.
+// Uses the library and ends the process on a wrong result.
 class Use {
  public:
   Use(const char* when, KeepingSink& sink) : when_(when), sink_(sink) {}
@@ -128,7 +127,7 @@ class Use {
   MapResourceTransform transform_{context_};
 };
 
-// Constructed before the library was used, so destroyed after whatever it made on first use.
+// Constructed before the library is used, and therefore destroyed after all that it makes on first use.
 class OutlastsTheLibrary {
  public:
   OutlastsTheLibrary() = default;
