@@ -45,7 +45,7 @@ TEST_P(GoldenTest, NamesDecodeAsRecorded) {
     std::ofstream(path, std::ios::binary) << result.output;
     return;
   }
-  EXPECT_EQ(result.output, golden);
+  EXPECT_EQ(FirstDifference(golden, result.output), "") << kHowToUpdate;
 }
 
 TEST_P(GoldenTest, SamplesAreOfTheKindAndDecodeWithoutFailure) {

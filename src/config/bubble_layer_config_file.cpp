@@ -6,6 +6,7 @@
 #include <optional>
 #include <string_view>
 
+#include "util/escape.h"
 #include "util/json_number.h"
 #include "util/json_value.h"
 #include "util/strict_json.h"
@@ -17,7 +18,9 @@ namespace {
 constexpr const char* kWord = "an integer from 0 to 4294967295 or a string such as \"0xffff0000\"";
 
 [[noreturn]] void FailUnknown(const std::string& where, const std::string& key, const char* expected) {
-  throw ConfigError(where + ": unknown key \"" + Excerpt(key) + "\", expected " + expected);
+  std::string quoted_key;
+  AppendQuoted(quoted_key, Excerpt(key));
+  throw ConfigError(where + ": unknown key " + quoted_key + ", expected " + expected);
 }
 
 // The value of a string such as "0xffff0000".

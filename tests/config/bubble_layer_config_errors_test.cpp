@@ -198,13 +198,13 @@ TEST(BubbleLayerConfigErrorsTest, FindIsTheTextOfTheFile) {
   }
 }
 
-TEST(BubbleLayerConfigErrorsTest, KeysAreShownAsJsonAndCut) {
+TEST(BubbleLayerConfigErrorsTest, KeysAreShownEscapedAndCut) {
   EXPECT_EQ(ErrorOfLayer(R"("a\u0000b\n":{})"),
             "bubble_layer: unknown key \"a\\u0000b\\n\", expected a record such as \"traffic_style\"");
   EXPECT_EQ(
       ErrorOf("{\"" + std::string(100'000, 'k') + "\":1}"),
-      "the configuration: unknown key \"" + std::string(59, 'k') +
-          "..., expected \"context_name\", \"multi_light_type\", \"bubble_layer\" or \"marker_bubble\"");
+      "the configuration: unknown key \"" + std::string(60, 'k') +
+          "...\", expected \"context_name\", \"multi_light_type\", \"bubble_layer\" or \"marker_bubble\"");
 }
 
 TEST(BubbleLayerConfigErrorsTest, LongNumberGivesAShortMessage) {

@@ -2,10 +2,26 @@
 
 #include <fstream>
 #include <nlohmann/json.hpp>
+#include <sstream>
 
 namespace kavrix::test {
 
 bool update_goldens = false;
+
+std::string FirstDifference(const std::string& recorded, const std::string& printed) {
+  if (recorded == printed) return "";
+  std::istringstream recorded_lines(recorded);
+  std::istringstream printed_lines(printed);
+  for (int number = 1;; ++number) {
+    std::string recorded_line;
+    std::string printed_line;
+    const bool is_recorded = static_cast<bool>(std::getline(recorded_lines, recorded_line));
+    const bool is_printed = static_cast<bool>(std::getline(printed_lines, printed_line));
+    if (is_recorded && is_printed && recorded_line == printed_line) continue;
+    return "line " + std::to_string(number) + "\nrecorded: " + recorded_line + "\nprinted:  " + printed_line +
+           "\n";
+  }
+}
 
 std::string GoldenPath(const BubbleKindInfo& info) {
   return std::string(KAVRIX_SOURCE_DIR "/tests/golden/") + info.stem + ".jsonl";

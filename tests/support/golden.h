@@ -12,6 +12,14 @@ namespace kavrix::test {
 // The test runner's --update-goldens sets it.
 extern bool update_goldens;
 
+// What to do about a recorded text that is no longer what the tool prints.
+inline constexpr char kHowToUpdate[] =
+    "run build/dev/unit_tests --update-goldens, which rewrites goldens and documents, and read what it "
+    "changed";
+
+// The first line in which two texts differ, by its number and what it is in each; empty when they are equal.
+std::string FirstDifference(const std::string& recorded, const std::string& printed);
+
 std::string GoldenPath(const BubbleKindInfo& info);
 
 // Returns the names in a kind's golden file.

@@ -76,7 +76,7 @@ TEST(KindsCommandTest, TheGrammarDocumentIsWhatTheToolPrints) {
     std::ofstream(path, std::ios::binary) << document.substr(0, at) << begin << printed;
     return;
   }
-  EXPECT_EQ(document.substr(at + begin.size()), printed) << "run the tests with --update-goldens";
+  EXPECT_EQ(FirstDifference(document.substr(at + begin.size()), printed), "") << kHowToUpdate;
 }
 
 }  // namespace
