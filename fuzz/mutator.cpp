@@ -1,117 +1,17 @@
-// Changes inputs by what they are made of: members, values, markers and fields. Half of the changes are left
-// to libFuzzer's own, which knows nothing of them.
+// Half of the changes to inputs know what names are made of; the others are libFuzzer's own, which know
+// nothing of it.
 
 #include <algorithm>
 #include <cstdint>
-#include <random>
-#include <string>
 
-#include "fuzz/vocabulary.h"
+#include "fuzz/mutation.h"
 
 extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t max_size);
-
-namespace kavrix::fuzz {
-namespace {
-
-class Mutation {
- public:
-  Mutation(std::string text, unsigned seed) : text_(std::move(text)), random_(seed) {}
-
-  std::string Take() { return std::move(text_); }
-
-  void Mutate() {
-    switch (Below(8)) {
-      case 0:
-        return InsertMember();
-      case 1:
-        return ReplaceValue();
-      case 2:
-        return ReplaceKey();
-      case 3:
-        return ReplaceMarker();
-      case 4:
-        return Insert(Place(), OneOf(Words().markers));
-      case 5:
-        return Insert(Place(), OneOf(Words().separators));
-      case 6:
-        return ReplaceField();
-      default:
-        return CopyPiece();
-    }
-  }
-
- private:
-  std::size_t Below(std::size_t end) {
-    return end == 0 ? 0 : std::uniform_int_distribution<std::size_t>(0, end - 1)(random_);
-  }
-  const std::string& OneOf(const std::vector<std::string>& words) { return words[Below(words.size())]; }
-  std::size_t Place() { return Below(text_.size() + 1); }
-  void Insert(std::size_t place, const std::string& piece) { text_.insert(place, piece); }
-
-  // Where one of the characters stands, searched from a random place on and from the front; npos: nowhere.
-  std::size_t PlaceOf(const char* characters) {
-    const std::size_t place = text_.find_first_of(characters, Place());
-    return place != std::string::npos ? place : text_.find_first_of(characters);
-  }
-
-  void InsertMember() {
-    const std::string member = '"' + OneOf(Words().keys) + "\":" + OneOf(Words().values);
-    const std::size_t place = PlaceOf("{,");
-    if (place == std::string::npos) return Insert(Place(), "{" + member + "}");
-    const bool is_last = text_[place] == '{' && place + 1 < text_.size() && text_[place + 1] == '}';
-    Insert(place + 1, is_last ? member : member + ",");
-  }
-
-  void ReplaceValue() {
-    const std::size_t colon = PlaceOf(":");
-    if (colon == std::string::npos) return ReplaceField();
-    const std::size_t end = std::min(text_.find_first_of(",}]", colon), text_.size());
-    text_.replace(colon + 1, end - colon - 1, OneOf(Words().values));
-  }
-
-  void ReplaceKey() {
-    const std::size_t colon = PlaceOf(":");
-    if (colon == std::string::npos || colon < 2 || text_[colon - 1] != '"') return InsertMember();
-    const std::size_t quote = text_.rfind('"', colon - 2);
-    if (quote == std::string::npos) return InsertMember();
-    text_.replace(quote + 1, colon - quote - 2, OneOf(Words().keys));
-  }
-
-  void ReplaceMarker() {
-    const std::size_t dot = text_.rfind('.');
-    if (dot != std::string::npos) text_.resize(dot);
-    text_ += OneOf(Words().markers);
-  }
-
-  // What stands between two separators of fields.
-  void ReplaceField() {
-    const std::size_t begin = PlaceOf("@_.|");
-    if (begin == std::string::npos) return Insert(Place(), "_" + OneOf(Words().values));
-    const std::size_t end = std::min(text_.find_first_of("@_.|", begin + 1), text_.size());
-    text_.replace(begin + 1, end - begin - 1, OneOf(Words().values));
-  }
-
-  // Arrays grow and keys come twice when a piece is put in again.
-  void CopyPiece() {
-    const std::size_t begin = Place();
-    const std::string piece = text_.substr(begin, 1 + Below(64));
-    const std::size_t comma = PlaceOf(",");
-    Insert(comma != std::string::npos && Below(2) == 0 ? comma : Place(), piece);
-  }
-
-  std::string text_;
-  std::minstd_rand random_;
-};
-
-}  // namespace
-}  // namespace kavrix::fuzz
 
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::size_t max_size,
                                                unsigned seed) {
   if (seed % 2 == 0) return LLVMFuzzerMutate(data, size, max_size);
-  kavrix::fuzz::Mutation mutation(std::string(data, data + size), seed / 2);
-  mutation.Mutate();
-  const std::string text = mutation.Take();
+  const std::string text = kavrix::fuzz::Mutated(std::string(data, data + size), seed / 2);
   const std::size_t new_size = std::min(text.size(), max_size);
   std::copy_n(text.begin(), new_size, data);
   return new_size;
