@@ -8,8 +8,8 @@
 
 #include "bench/cases.h"
 #include "bench/names.h"
-#include "bench/plain/plain_transform.h"
 #include "map_resource/map_resource_transform.h"
+#include "tests/reference/reference_decoder.h"
 
 #if defined(__GNUC__)
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
@@ -72,12 +72,12 @@ void AddKinds(std::vector<Case>& cases) {
     const std::string what = stem;
     cases.push_back({"kind/" + what, [what] { return Decode<MapResourceTransform>(SampleName(what)); }});
     cases.push_back(
-        {"plain-kind/" + what, [what] { return Decode<plain::PlainTransform>(SampleName(what)); }});
+        {"reference-kind/" + what, [what] { return Decode<reference::ReferenceDecoder>(SampleName(what)); }});
   }
   cases.push_back(
       {"kind/marker_name", [] { return DecodeMarker<MapResourceTransform>(SampleName("marker_name")); }});
-  cases.push_back({"plain-kind/marker_name",
-                   [] { return DecodeMarker<plain::PlainTransform>(SampleName("marker_name")); }});
+  cases.push_back({"reference-kind/marker_name",
+                   [] { return DecodeMarker<reference::ReferenceDecoder>(SampleName("marker_name")); }});
 }
 
 // Makes a route-explain payload of about `size` bytes, with as many secondary lines of 8 bytes as that takes.
@@ -93,7 +93,8 @@ void AddLengths(std::vector<Case>& cases) {
     const std::string name = MapResourceManager::kavrix_resource_prefix + payload + ".routeExplainBubble";
     const std::string what = std::to_string(payload.size());
     cases.push_back({"length/" + what, [name] { return Decode<MapResourceTransform>(name); }});
-    cases.push_back({"plain-length/" + what, [name] { return Decode<plain::PlainTransform>(name); }});
+    cases.push_back(
+        {"reference-length/" + what, [name] { return Decode<reference::ReferenceDecoder>(name); }});
     cases.push_back({"bare-parse-length/" + what, [payload] {
                        return [payload] {
                          Json::Value root;

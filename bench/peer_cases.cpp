@@ -1,5 +1,5 @@
-// The decode of P1 to P4 beside what else does the job, or a part of it: the bare JsonCpp parse, the plain
-// decoder, and parse + keys into the descriptor by two other JSON readers.
+// The decode of P1 to P4 beside what else does the job, or a part of it: the bare JsonCpp parse, the
+// reference decoder, and parse + keys into the descriptor by two other JSON readers.
 
 #include <json/reader.h>
 #include <rapidjson/document.h>
@@ -9,9 +9,9 @@
 #include "bench/cases.h"
 #include "bench/key_lists.h"
 #include "bench/names.h"
-#include "bench/plain/plain_transform.h"
 #include "key_list/key_reader.h"
 #include "map_resource/map_resource_transform.h"
+#include "tests/reference/reference_decoder.h"
 
 #if defined(__GNUC__)
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
@@ -147,7 +147,7 @@ void AddJsonCases(std::vector<Case>& cases, const Name& name, KeyList key_list) 
 void AddPeerCases(std::vector<Case>& cases) {
   for (const Name* const name : {&P1(), &P2(), &P3(), &P4()}) {
     cases.push_back(DecodeCase<MapResourceTransform>("decode", *name));
-    cases.push_back(DecodeCase<plain::PlainTransform>("plain", *name));
+    cases.push_back(DecodeCase<reference::ReferenceDecoder>("reference", *name));
   }
   AddJsonCases<TrafficDrawDescriptor>(cases, P1(), TrafficKeys());
   AddJsonCases<CameraDrawDescriptor>(cases, P2(), CameraKeys());

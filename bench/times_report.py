@@ -23,7 +23,7 @@ def read(path):
 
 
 def ratios(times):
-    ways = [("decode", "whole decode"), ("bare-parse", "bare JsonCpp parse"), ("plain", "plain decoder"),
+    ways = [("decode", "whole decode"), ("bare-parse", "bare JsonCpp parse"), ("reference", "reference decoder"),
             ("nlohmann-job", "parse + keys, nlohmann::json"), ("rapidjson-job", "parse + keys, RapidJSON")]
     rows = []
     for way, title in ways:
@@ -38,15 +38,15 @@ def ratios(times):
 def stages(times):
     cases = ["find/P1", "envelope/P1", "parse/P1", "keys/P1", "snapshot/names of 8 bytes",
              "snapshot/names of 24 bytes, 4 items", "log/off", "log/on", "decode/P1", "decode-logs-on/P1", "decode/P4",
-             "plain/P4", "decode-logs-on/P4"]
+             "reference/P4", "decode-logs-on/P4"]
     return table(["case", "ns"], [[case.replace("/", ", "), f"{times[case]:,.1f}"] for case in cases])
 
 
 def kinds(times):
-    plain = group(times, "plain-kind")
-    rows = [[kind.replace("_", " "), f"{time:,.0f}", f"{plain[kind]:,.0f}", f"{plain[kind] / time:.2f}"]
+    reference = group(times, "reference-kind")
+    rows = [[kind.replace("_", " "), f"{time:,.0f}", f"{reference[kind]:,.0f}", f"{reference[kind] / time:.2f}"]
             for kind, time in group(times, "kind").items()]
-    return table(["kind", "decode, ns", "plain decoder, ns", "ratio"], rows)
+    return table(["kind", "decode, ns", "reference decoder, ns", "ratio"], rows)
 
 
 def linear(times):

@@ -3,10 +3,10 @@
 
 #include <stdexcept>
 
-#include "bench/plain/plain_transform.h"
 #include "fuzz/fuzzing.h"
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
+#include "tests/reference/reference_decoder.h"
 #include "tests/support/record_collector.h"
 
 namespace kavrix::fuzz {
@@ -52,16 +52,16 @@ inline Outcome Decode(const std::string& name, EntryPoint entry_point,
   return outcome;
 }
 
-// What the decoder that is written down step by step makes of the name; it writes no records.
-inline Outcome DecodePlainly(const std::string& name, EntryPoint entry_point,
-                             const std::shared_ptr<BubbleDrawDescriptor>& before) {
-  static plain::PlainTransform transform(MakeContext());
+// What the reference decoder makes of the name.
+inline Outcome DecodeByReference(const std::string& name, EntryPoint entry_point,
+                                 const std::shared_ptr<BubbleDrawDescriptor>& before) {
+  static const reference::ReferenceDecoder decoder(MakeContext());
   Outcome outcome{before, {}, ""};
   try {
     if (entry_point == EntryPoint::kBubble) {
-      transform.GetBubbleDrawDescriptor(name, outcome.out);
+      decoder.GetBubbleDrawDescriptor(name, outcome.out, &outcome.records);
     } else {
-      transform.GetMarkerDrawDescriptor(name, outcome.out);
+      decoder.GetMarkerDrawDescriptor(name, outcome.out, &outcome.records);
     }
   } catch (const std::out_of_range& exception) {
     outcome.exception = exception.what();
@@ -88,10 +88,11 @@ inline void CheckName(std::string_view text, EntryPoint entry_point) {
   Require(first.exception == second.exception, "a name decoded twice throws the same");
   Require(*first.out == *second.out, "a name decoded twice gives the same descriptor");
   Require(*before == BubbleDrawDescriptor(), "the descriptor that was in `out` is never written to");
-  const Outcome plain = DecodePlainly(*name, entry_point, before);
-  Require(first.exception.empty() == plain.exception.empty(),
-          "the plain decoder throws when the library does");
-  Require(*first.out == *plain.out, "the plain decoder makes the same descriptor");
+  const Outcome reference = DecodeByReference(*name, entry_point, before);
+  Require(first.exception.empty() == reference.exception.empty(), "the reference decoder throws as well");
+  Require((first.out == before) == (reference.out == before), "it leaves `out` alone as well");
+  Require(*first.out == *reference.out, "it makes the same descriptor");
+  Require(first.records == reference.records, "it writes the same log records");
   if (entry_point == EntryPoint::kMarker) return;
 
   const std::optional<BubbleKind> kind = FindBubbleKind(ExactCopy(text).text());

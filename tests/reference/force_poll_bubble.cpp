@@ -1,0 +1,25 @@
+#include "tests/reference/fields.h"
+#include "tests/reference/json.h"
+#include "tests/reference/kinds.h"
+
+namespace kavrix::reference {
+
+void ForcePollBubble(const Call& call, Out& out) {
+  const char* const tag = "KavrixMapLayerMgr_BubbleTraffic";
+  const char* const function = "ParseForcePollBubbleResourceName";
+  out = std::make_shared<BubbleDrawDescriptor>();
+  out->bubble_kind = 28;
+  const std::string payload = BetweenPrefixAndMarker(call.name, 16);
+  Json::Value root;
+  if (!ParseObject(payload, root)) {
+    call.Log(kFailure, tag, function, "parse json failed: ", payload);
+    return;
+  }
+  call.Log(kFailure, tag, function, payload);
+  out->mode_flag = IntOr(root, "mode", out->mode_flag ? 1 : 0) == 0;
+  out->type = Low16(IntOr(root, "type", out->type));
+  out->content = "ForcePoll";
+  out->is_force = true;
+}
+
+}  // namespace kavrix::reference
