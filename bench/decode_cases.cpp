@@ -8,6 +8,7 @@
 
 #include "bench/cases.h"
 #include "bench/names.h"
+#include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
 #include "tests/reference/reference_decoder.h"
 
@@ -47,28 +48,7 @@ std::string SampleName(const std::string& stem) {
 }
 
 void AddKinds(std::vector<Case>& cases) {
-  for (const char* const stem : {"traffic_bubble",
-                                 "route_name_bubble",
-                                 "indoor_entries_bubble",
-                                 "companion_bubble",
-                                 "camera_bubble",
-                                 "eta_bubble",
-                                 "route_label_bubble",
-                                 "route_explain_bubble",
-                                 "marker_bubble",
-                                 "light_countdown_bubble",
-                                 "multi_light_countdown_bubble",
-                                 "via_circle_bubble",
-                                 "light_wait_bubble",
-                                 "turn_bubble",
-                                 "hd_long_solid_bubble",
-                                 "underground_park_bubble",
-                                 "force_dot_bubble",
-                                 "force_poll_bubble",
-                                 "yaw_notice_bubble",
-                                 "route_accident_bubble",
-                                 "safe_warning_bubble",
-                                 "lane_change_bubble"}) {
+  for (const char* const stem : kKindStems) {
     const std::string what = stem;
     cases.push_back({"kind/" + what, [what] { return Decode<MapResourceTransform>(SampleName(what)); }});
     cases.push_back(

@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "config/marker_bubble_config.h"
@@ -20,6 +21,7 @@ namespace kavrix::reference {
 class ReferenceDecoder {
  public:
   explicit ReferenceDecoder(std::shared_ptr<KavrixContext> context);
+  void SetMarkerBubbleConfig(MarkerBubbleConfig config) { marker_bubble_config_ = std::move(config); }
 
   // Log records are appended to `records`; without one nothing is logged.
   void GetBubbleDrawDescriptor(const std::string& resource_name, std::shared_ptr<BubbleDrawDescriptor>& out,

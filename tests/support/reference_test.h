@@ -13,7 +13,15 @@ namespace kavrix::test {
 // throw for the same names.
 class ReferenceTest : public DecodeTest {
  protected:
-  ReferenceTest() { context_->multi_light_type = 70000; }
+  ReferenceTest() {
+    context_->multi_light_type = 70000;
+    MarkerBubbleConfig marker_bubble;
+    marker_bubble.name = "marker_bubble";
+    marker_bubble.SetWord(2, 0xff00ff00);
+    marker_bubble.SetFloat(3, 1.25F);
+    transform_.SetMarkerBubbleConfig(marker_bubble);
+    reference_.SetMarkerBubbleConfig(marker_bubble);
+  }
 
   // By both entry points, whatever the name was made for.
   void ExpectSameByBoth(const std::string& name) {

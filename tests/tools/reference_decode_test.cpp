@@ -3,9 +3,7 @@
 
 #include <fstream>
 #include <limits>
-#include <map>
 #include <nlohmann/json.hpp>
-#include <set>
 #include <stdexcept>
 
 #include "fuzz/vocabulary.h"
@@ -34,8 +32,8 @@ class MemberJson : public MemberVisitor {
   void Text(const char* name, const std::string& value) override { Put(name, test::Text(value)); }
   void BeginList(const char* name) override { list_ = &(members_[name] = json::array()); }
   void EndList() override { list_ = nullptr; }
-  void BeginRecord() override { list_->push_back(json::object()); }
-  void EndRecord() override {}
+  void BeginObject() override { list_->push_back(json::object()); }
+  void EndObject() override {}
 
   const json& members() const { return members_; }
 
@@ -98,9 +96,11 @@ class ReferenceDecodeTest : public ::testing::Test {
       if (random_() % 20 != 0) layer[name] = DrawRecord(name, record);
     });
     context_->SetBubbleLayerConfig(config);
+    marker_bubble_ = {};
     std::ofstream(config_path_) << json{{"context_name", file_context},
                                         {"multi_light_type", context_->multi_light_type.load()},
-                                        {"bubble_layer", layer}};
+                                        {"bubble_layer", layer},
+                                        {"marker_bubble", DrawRecord("marker_bubble", marker_bubble_)}};
     options_ = {"decode", "--format", "json", "--null", "--config", config_path_};
     if (is_overridden) options_.insert(options_.end(), {"--context-name", context_name_});
   }
@@ -144,26 +144,11 @@ class ReferenceDecodeTest : public ::testing::Test {
  private:
   template <class Record>
   json DrawRecord(const std::string& name, Record& record) {
-    static const std::map<std::string, std::set<std::size_t>> kFloats = {
-        {"route_name_style", {3}},
-        {"route_name_scene_style", {3}},
-        {"indoor_entries_style", {3}},
-        {"light_wait_style", {3}},
-        {"hd_long_solid_style", {3}},
-        {"traffic_style", {3, 4, 5, 6, 8, 9, 10}},
-        {"traffic_nav_style", {3, 4, 5, 6, 8, 9, 10}},
-        {"traffic_scene_style", {3, 4, 5, 6, 8, 9, 10}},
-        {"companion_style", {6, 7}},
-        {"eta_style", {2, 8}},
-        {"eta_scene_style", {2, 8}},
-        {"route_label_style", {4}},
-    };
     record.name = OneOf<std::string>({name, "样式 " + name, ""});
     json values = json::array();
     const std::size_t count = random_() % 8 == 0 ? random_() % record.kValueCount : record.kValueCount;
     for (std::size_t number = 1; number <= count; ++number) {
-      const auto floats = kFloats.find(name);
-      if (floats != kFloats.end() && floats->second.count(number) != 0) {
+      if (IsFloatValue(name, number)) {
         record.SetFloat(number, DrawFloat());
         values.push_back(record.Float(number));
       } else {
@@ -188,7 +173,8 @@ class ReferenceDecodeTest : public ::testing::Test {
   }
 
   json Expected(const std::string& name) const {
-    const reference::ReferenceDecoder decoder(context_);
+    reference::ReferenceDecoder decoder(context_);
+    decoder.SetMarkerBubbleConfig(marker_bubble_);
     std::shared_ptr<BubbleDrawDescriptor> out;
     std::vector<SeenRecord> records;
     bool is_out_of_range = false;
@@ -239,6 +225,7 @@ class ReferenceDecodeTest : public ::testing::Test {
   std::string prefix_;
   std::string context_name_;
   std::shared_ptr<KavrixContext> context_;
+  MarkerBubbleConfig marker_bubble_;
   std::vector<std::string> options_;
   bool is_marker_ = false;
 };
