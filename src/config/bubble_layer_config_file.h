@@ -18,8 +18,8 @@ struct BubbleLayerConfigFile {
   MarkerBubbleConfig marker_bubble;  // for MapResourceTransform::SetMarkerBubbleConfig
 };
 
-// The configuration cannot be used. The message says where, what was expected and what was found; the latter is
-// quoted as it is, control characters included, and cut after 60 characters.
+// The configuration cannot be used. The message says where, what was expected and what was found; the latter
+// is quoted as it is, control characters included, and cut after 60 characters.
 class ConfigError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
