@@ -2,6 +2,7 @@
 
 #include "fuzz/fuzzing.h"
 #include "map_resource/resource_name.h"
+#include "util/fields.h"
 #include "util/string_util.h"
 #include "util/utf8.h"
 
@@ -10,7 +11,7 @@ namespace {
 
 void CheckNumbers(std::string_view text) {
   int number = 12345;
-  const bool is_number = StringToInt(text, &number);
+  const bool is_number = ReadInt(text, number);
   if (is_number) {
     Require(LeadingInt(text) == number, "both readers of integers agree on what both accept");
     Require(std::strtol(std::string(text).c_str(), nullptr, 10) == number, "an integer is what strtol reads");
