@@ -22,7 +22,7 @@ struct TrafficKeys {
 struct CameraKeys {
   template <class Keys, class Camera>
   void operator()(Keys& keys, Camera& camera) const {
-    keys.Records("cameras", camera.cameras, [](auto& item_keys, auto& item) {
+    keys.Objects("cameras", camera.cameras, [](auto& item_keys, auto& item) {
       item_keys.Integer("type", item.type);
       item_keys.Integer("speed", item.speed);
     });
@@ -46,7 +46,7 @@ struct LightsKeys {
     keys.Integer("style", lights.style);
     keys.Text("id", lights.id);
     keys.TrueWhenOne("is_animation", lights.is_animation);
-    keys.Records("light_descriptors", lights.light_descriptors, [](auto& item_keys, auto& light) {
+    keys.Objects("light_descriptors", lights.light_descriptors, [](auto& item_keys, auto& light) {
       item_keys.Integer("light_type", light.light_type);
       item_keys.Integer("turn_arrow_type", light.turn_arrow_type);
       item_keys.Integer("remain_time", light.remain_time);

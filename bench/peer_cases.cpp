@@ -34,7 +34,7 @@ class PeerKeyReader : public Reader {
   void TrueWhenOne(const char* key, bool& flag) { flag = Reader::IntOr(key, flag ? 1 : 0) == 1; }
 
   template <class Item, class ItemKeys>
-  void Records(const char* key, std::vector<Item>& items, ItemKeys item_keys) {
+  void Objects(const char* key, std::vector<Item>& items, ItemKeys item_keys) {
     Reader::ForEach(key, [&](const auto& element) {
       Item item;
       PeerKeyReader keys(element);
