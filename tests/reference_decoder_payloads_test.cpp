@@ -36,9 +36,10 @@ class ReferencePayloadsTest : public ReferenceTest {
 
 TEST_F(ReferencePayloadsTest, ValuesOfEveryType) {
   std::vector<std::string> values = fuzz::Words().values;
-  for (const char* const value : {"70000", "3000000000", "-2147483649", "18446744073709551615", "1.0", "007",
-                                  "[1]", R"({"a":1})", R"("a.nameBubble")", R"("Bubble")", R"("\"\\\/\t")",
-                                  R"(["a","",3,"b"])", R"([{},5,"x",null,[],{"type":1,"text":"t"}])"}) {
+  for (const char* const value :
+       {"70000", "3000000000", "-2147483649", "18446744073709551615", "1.0", "007", "[1]", R"({"a":1})",
+        R"("a.nameBubble")", R"("Bubble")", R"("\"\\\/\t")", "\"\x7f\x01\xff\"", R"(["a","",3,"b"])",
+        R"([{},5,"x",null,[],{"type":1,"text":"t"}])"}) {
     values.emplace_back(value);
   }
   for (const auto& [stem, is_marker, name] : SampleNames()) {
@@ -91,7 +92,7 @@ TEST_F(ReferencePayloadsTest, ObjectsOfManyMembers) {
 TEST_F(ReferencePayloadsTest, BlanksAndCommentsAnywhere) {
   for (const auto& [stem, is_marker, name] : FirstSampleNames()) {
     for (std::size_t at = 0; at <= name.size(); ++at) {
-      for (const char* const text : {" \t\r\n", "/*{\"*/", "//}\n", "//]\r", "/", "/**"}) {
+      for (const char* const text : {" \t\r\n", "/*{\"*/", "//}\n", "//]\r", "/", "/**", "\xef\xbb\xbf"}) {
         ExpectSame(name.substr(0, at) + text + name.substr(at), is_marker);
       }
     }
@@ -156,7 +157,8 @@ TEST_F(ReferencePayloadsTest, NestedToTheLimitAndBeyond) {
       for (const std::string& payload :
            {R"({"scene":1,"k":)" + deep + "}", R"({"k":)" + deep + R"(,"k":0,"scene":1})",
             R"({"scene":1,"k":)" + deep, R"({"scene":1,"k":)" + deep + ",}", R"({,"k":)" + deep + "}",
-            R"({"scene":1/**/[)" + ("\"k\":" + deep) + "}", deep}) {
+            R"({"scene":1/**/[)" + ("\"k\":" + deep) + "}", "{/*[*/\"k\"://[\r" + deep + "}",
+            "//{\n{\"scene\":1,\"k\":/*/[*/" + deep + "}", deep}) {
         ExpectSamePayload(payload);
       }
     }
@@ -164,7 +166,7 @@ TEST_F(ReferencePayloadsTest, NestedToTheLimitAndBeyond) {
 }
 
 TEST_F(ReferencePayloadsTest, BracketsThatOpenNothing) {
-  const std::string brackets = Repeated("[{", 300);
+  const std::string brackets = Repeated("[{", 2000);
   for (const std::string& payload :
        {R"({"content":")" + brackets + "\"}", R"({"content":"\")" + brackets + "\"}",
         R"({"content":"\\")" + brackets + "}", R"({")" + brackets + R"(":1,"scene":1})",

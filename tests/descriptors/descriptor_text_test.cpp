@@ -110,7 +110,7 @@ TEST(DescriptorTextTest, IsTheSameUnderEveryGlobalLocale) {
   EXPECT_THAT(stream.str(), HasSubstr("style_scale:[0x0p+0, 0x0p+0]"));
 }
 
-TEST(DescriptorTextTest, LeavesTheStateOfTheStreamAsItWas) {
+TEST(DescriptorTextTest, LeavesTheStateOfTheStreamAsItWasButForTheWidth) {
   std::ostringstream stream;
   stream << std::hex << std::showbase << std::uppercase << std::scientific << std::setprecision(3)
          << std::setfill('*') << std::setw(20);

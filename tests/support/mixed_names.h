@@ -18,7 +18,7 @@ class MixedNames {
   std::string Next();
 
  private:
-  std::string WithOtherByte(std::string name);
+  std::string WithOtherBytes(std::string name);
 
   std::mt19937 random_;
   std::vector<std::string> names_;
