@@ -64,7 +64,7 @@ TEST_P(GoldenTest, KindHasItsFilesUnderItsStem) {
   const std::string stem = GetParam()->stem;
   for (const std::string& path :
        {"src/map_resource/" + stem + ".cpp", "tests/map_resource/" + stem + "_test.cpp",
-        "samples/" + stem + ".txt", "tests/golden/" + stem + ".jsonl"}) {
+        "tests/reference/" + stem + ".cpp", "samples/" + stem + ".txt", "tests/golden/" + stem + ".jsonl"}) {
     EXPECT_TRUE(std::filesystem::exists(KAVRIX_SOURCE_DIR "/" + path)) << path << " is missing";
   }
 }

@@ -4,7 +4,7 @@
 #include <thread>
 #include <type_traits>
 
-#include "map_resource/bubble_markers.h"
+#include "map_resource/bubble_kinds.h"
 #include "tests/support/decode_test.h"
 
 namespace kavrix::test {
@@ -89,65 +89,15 @@ TEST_F(MapResourceTransformTest, RoutineRecordComesFirstForEveryKind) {
   }
 }
 
-TEST_F(MapResourceTransformTest, EachMarkerLeadsToItsOwnDescriptorType) {
-  const std::pair<const char*, const char*> kinds[] = {
-      {".trafficBubble", "TrafficDrawDescriptor"},
-      {".nameBubble", "BubbleDrawDescriptor"},
-      {".inDoorEntriesBubble", "IndoorEntriesBubbleDrawDescriptor"},
-      {".companionBubble", "CompanionBubbleDrawDescriptor"},
-      {".cameraBubble", "CameraDrawDescriptor"},
-      {".etaBubble", "DestNameEtaDrawDescriptor"},
-      {".labelBubble", "BubbleDrawDescriptor"},
-      {".routeExplainBubble", "ExplainBubbleDrawDescriptor"},
-      {".markerBubble", "BubbleDrawDescriptor"},
-      {".lightCountdownBubble", "LightCountdownTimerDrawDescriptor"},
-      {".multiLightCountdownBubble", "MultiLightCountdownTimerDrawDescriptor"},
-      {".viaCircleBubble", "ViaPointDrawDescriptor"},
-      {".lightWaitBubble", "LightWaitBubbleDrawDescriptor"},
-      {".turnBubble", "TurnArrowBubbleDrawDescriptor"},
-      {".hdLongSolidBubble", "HDLongSolidBubbleDrawDescriptor"},
-      {".UndergroundParkBubble", "BubbleDrawDescriptor"},
-      {".ForceDotBubble", "BubbleDrawDescriptor"},
-      {".ForcePollBubble", "BubbleDrawDescriptor"},
-      {".YawNoticeBubble", "YawNoticeBubbleDrawDescriptor"},
-      {".RouteAccidentBubble", "RouteAccidentBubbleDrawDescriptor"},
-      {".SafeWarningBubble", "SafeWarningBubbleDrawDescriptor"},
-      {".LaneChangeBubble", "HDLaneChangeBubbleDrawDescriptor"}};
-  for (const auto& [marker, type] : kinds) {
-    Decode(marker == std::string(".SafeWarningBubble") ? "{}@1.SafeWarningBubble"
-                                                       : std::string("{}") + marker);
-    EXPECT_STREQ(Base().TypeName(), type) << marker;
-  }
-}
-
-TEST_F(MapResourceTransformTest, EachKindWritesItsKindCodeOrLeavesZero) {
-  const std::pair<const char*, int> kinds[] = {{".trafficBubble", 1},
-                                               {".nameBubble", 0},
-                                               {".inDoorEntriesBubble", 13},
-                                               {".companionBubble", 0},
-                                               {".cameraBubble", 0},
-                                               {".etaBubble", 0},
-                                               {".labelBubble", 7},
-                                               {".routeExplainBubble", 0},
-                                               {".markerBubble", 0},
-                                               {".lightCountdownBubble", 0},
-                                               {".multiLightCountdownBubble", 0},
-                                               {".viaCircleBubble", 20},
-                                               {".lightWaitBubble", 14},
-                                               {".turnBubble", 10},
-                                               {".hdLongSolidBubble", 12},
-                                               {".UndergroundParkBubble", 25},
-                                               {".ForceDotBubble", 27},
-                                               {".ForcePollBubble", 28},
-                                               {".YawNoticeBubble", 0},
-                                               {".RouteAccidentBubble", 0},
-                                               {".LaneChangeBubble", 0}};
-  for (const auto& [marker, code] : kinds) {
-    for (const std::string payload : {"{}", "", "[1]", "broken"}) {
+TEST_F(MapResourceTransformTest, EachMarkerLeadsToItsOwnDescriptorTypeAndKindCode) {
+  for (const BubbleKind kind : kBubbleKinds) {
+    const BubbleKindInfo& info = InfoOf(kind);
+    for (const std::string payload : {"{}@1", "@1", "[1]@1", "broken@1"}) {
       out_.reset();
-      Decode(payload + marker);
-      ASSERT_NE(out_, nullptr) << payload << marker;
-      EXPECT_EQ(out_->bubble_kind, code) << payload << marker;
+      Decode(payload + std::string(info.marker));
+      ASSERT_NE(out_, nullptr) << payload << info.marker;
+      EXPECT_STREQ(Base().TypeName(), info.descriptor_type) << payload << info.marker;
+      EXPECT_EQ(out_->bubble_kind, info.kind_code.value_or(0)) << payload << info.marker;
     }
   }
 }

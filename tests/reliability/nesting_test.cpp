@@ -115,7 +115,7 @@ class DeepNameTest : public DecodeTest {
 TEST_F(DeepNameTest, EveryJsonKindTakesATooDeepPayloadForABrokenOne) {
   const std::string broken = R"({"content":"read",})";
   const std::string deep = Nested({"["}, "1", kLimit + 1);
-  ASSERT_EQ(TailsOfJsonKinds().size(), 16U);
+  ASSERT_FALSE(TailsOfJsonKinds().empty());
   for (const std::string& tail : TailsOfJsonKinds()) {
     Decode(broken + tail);
     const auto expected = out_;
