@@ -32,7 +32,8 @@ void MapResourceTransform::ParseForceDotBubbleResourceName(const std::string& re
   const auto bubble = Publish<BubbleDrawDescriptor>(out);
   bubble->bubble_kind = kKindCode;
   const std::string_view payload = ForceDotFormat::PayloadOf(resource_name);
-  const auto log_payload = [&, function = __func__] {
+  const char* const function = __func__;
+  const auto log_payload = [&] {
     KAVRIX_LOG_IN(function, LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, payload);
   };
   if (!ForceDotFormat::Read(payload, *bubble, log_payload)) {

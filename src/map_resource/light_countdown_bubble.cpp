@@ -40,7 +40,8 @@ struct LightCountdownFormat
 void MapResourceTransform::ParseLightCountdownBubbleResourceName(const std::string& resource_name,
                                                                  std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto light = Publish<LightCountdownTimerDrawDescriptor>(out);
-  const auto log_failure = [this, function = __func__](std::string_view json) {
+  const char* const function = __func__;
+  const auto log_failure = [this, function](std::string_view json) {
     KAVRIX_LOG_IN(function, LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kFailure,
                   "parse json failed: " << json);
   };

@@ -47,7 +47,8 @@ void MapResourceTransform::ParseMultiLightCountdownBubbleResourceName(
     const std::string& resource_name, std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto lights = Publish<MultiLightCountdownTimerDrawDescriptor>(out);
   lights->type = static_cast<std::int16_t>(context_->multi_light_type.load());
-  const auto log_failure = [this, function = __func__](std::string_view json) {
+  const char* const function = __func__;
+  const auto log_failure = [this, function](std::string_view json) {
     KAVRIX_LOG_IN(function, LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kFailure,
                   "parse json failed: " << json);
   };

@@ -37,7 +37,8 @@ void MapResourceTransform::ParseUndergroundParkBubbleResourceName(
   const auto bubble = Publish<BubbleDrawDescriptor>(out);
   bubble->bubble_kind = kKindCode;
   const std::string_view payload = UndergroundParkFormat::PayloadOf(resource_name);
-  const auto log_payload = [&, function = __func__] {
+  const char* const function = __func__;
+  const auto log_payload = [&] {
     KAVRIX_LOG_IN(function, LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, payload);
   };
   if (!UndergroundParkFormat::Read(payload, *bubble, log_payload)) {
