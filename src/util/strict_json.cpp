@@ -50,7 +50,7 @@ std::string Found(std::string_view rest) {
   if (IsControl(piece.code_point) || piece.code_point == kByteOrderMark) {
     return "U+" + Hex(piece.code_point, 4, "0123456789ABCDEF");
   }
-  const std::string shown = "'" + std::string(rest.substr(0, piece.length)) + "'";
+  std::string shown = "'" + std::string(rest.substr(0, piece.length)) + "'";
   if (piece.code_point < 0x80) return shown;
   return shown + " (U+" + Hex(piece.code_point, 4, "0123456789ABCDEF") + ")";
 }
