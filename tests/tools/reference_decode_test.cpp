@@ -1,6 +1,9 @@
 // The tool's JSON lines against the reference decoder, under configurations, prefixes and context names drawn
 // from a seed.
 
+#include <unistd.h>
+
+#include <algorithm>
 #include <fstream>
 #include <limits>
 #include <nlohmann/json.hpp>
@@ -71,7 +74,6 @@ json WithFloats(json line) {
 
 class ReferenceDecodeTest : public ::testing::Test {
  protected:
-  ReferenceDecodeTest() : random_(Seed()) {}
   ~ReferenceDecodeTest() override {
     MapResourceManager::kavrix_resource_prefix = "kavrix://resource/";
     std::remove(config_path_.c_str());
@@ -119,8 +121,7 @@ class ReferenceDecodeTest : public ::testing::Test {
     if (random_() % 10 == 0) return markers[random_() % markers.size()];  // shorter than some prefixes
     std::string name = names.Next();
     if (name.rfind(usual_prefix_, 0) == 0) name.replace(0, usual_prefix_.size(), prefix_);
-    std::size_t nul = 0;
-    while ((nul = name.find('\0')) != std::string::npos) name.erase(nul, 1);
+    name.erase(std::remove(name.begin(), name.end(), '\0'), name.end());
     return name;
   }
 
@@ -223,7 +224,7 @@ class ReferenceDecodeTest : public ::testing::Test {
 
   const std::string usual_prefix_ = MapResourceManager::kavrix_resource_prefix;
   const std::string config_path_ =
-      ::testing::TempDir() + "reference_decode_test_" + std::to_string(random_());
+      ::testing::TempDir() + "reference_decode_test_" + std::to_string(::getpid());
   std::string prefix_;
   std::string context_name_;
   std::shared_ptr<KavrixContext> context_;
