@@ -7,7 +7,7 @@ struct LaneChange {
   static constexpr const char* kMarker = ".LaneChangeBubble";
   using Descriptor = HDLaneChangeBubbleDrawDescriptor;
 };
-INSTANTIATE_TYPED_TEST_SUITE_P(LaneChange, WholeNameBubbleTest, LaneChange);
+INSTANTIATE_TYPED_TEST_SUITE_P(LaneChange, WholeNameBubbleTest, LaneChange, MarkerWord);
 
 using LaneChangeBubbleTest = WholeNameBubbleTest<LaneChange>;
 

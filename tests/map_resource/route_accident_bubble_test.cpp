@@ -7,7 +7,7 @@ struct RouteAccident {
   static constexpr const char* kMarker = ".RouteAccidentBubble";
   using Descriptor = RouteAccidentBubbleDrawDescriptor;
 };
-INSTANTIATE_TYPED_TEST_SUITE_P(RouteAccident, WholeNameBubbleTest, RouteAccident);
+INSTANTIATE_TYPED_TEST_SUITE_P(RouteAccident, WholeNameBubbleTest, RouteAccident, MarkerWord);
 
 using RouteAccidentBubbleTest = WholeNameBubbleTest<RouteAccident>;
 

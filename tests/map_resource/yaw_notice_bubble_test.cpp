@@ -7,7 +7,7 @@ struct YawNotice {
   static constexpr const char* kMarker = ".YawNoticeBubble";
   using Descriptor = YawNoticeBubbleDrawDescriptor;
 };
-INSTANTIATE_TYPED_TEST_SUITE_P(YawNotice, WholeNameBubbleTest, YawNotice);
+INSTANTIATE_TYPED_TEST_SUITE_P(YawNotice, WholeNameBubbleTest, YawNotice, MarkerWord);
 
 using YawNoticeBubbleTest = WholeNameBubbleTest<YawNotice>;
 

@@ -23,7 +23,7 @@ if(NOT installed STREQUAL KAVRIX_PUBLIC_HEADERS)
 endif()
 
 run(${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${work}/build -G ${GENERATOR} -DCMAKE_PREFIX_PATH=${work}/prefix
-    -DCMAKE_CXX_FLAGS=${CXX_FLAGS} -DPLOG_INCLUDE_DIR=${PLOG_INCLUDE_DIR})
+    -DCMAKE_CXX_COMPILER=${CXX_COMPILER} -DCMAKE_CXX_FLAGS=${CXX_FLAGS} -DPLOG_INCLUDE_DIR=${PLOG_INCLUDE_DIR})
 run(${CMAKE_COMMAND} --build ${work}/build)
 run(${work}/build/client)
 run(${work}/prefix/bin/kavrix-resource --version)

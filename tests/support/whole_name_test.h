@@ -16,6 +16,14 @@ class WholeNameBubbleTest : public DecodeTest {
   }
 };
 
+// Names the tests of a kind after its marker.
+struct MarkerWord {
+  template <class Kind>
+  static std::string GetName(int) {
+    return Kind::kMarker + 1;
+  }
+};
+
 TYPED_TEST_SUITE_P(WholeNameBubbleTest);
 
 TYPED_TEST_P(WholeNameBubbleTest, KindCodeStaysZeroAndNoStyleIsRead) {
