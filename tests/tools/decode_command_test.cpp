@@ -190,63 +190,6 @@ TEST(DecodeCommandTest, MarkerNameThatDoesNotParseFailsAndLeavesOutUntouched) {
   EXPECT_TRUE(result.JsonLines().at(0).at("descriptor").is_null());
 }
 
-TEST(DecodeCommandTest, TextShowsChangedMembersStyleRecordAndRecords) {
-  const ToolResult result = RunTool({"decode", "--format", "text", kGoodName});
-  EXPECT_EQ(result.status, 0);
-  EXPECT_THAT(result.output, HasSubstr("  kind        trafficBubble\n"));
-  EXPECT_THAT(result.output, HasSubstr("    content         \"c\"\n"));
-  EXPECT_THAT(result.output, HasSubstr("  style       traffic_style\n"));
-  EXPECT_THAT(result.output,
-              HasSubstr("    0  KavrixMapLayerMgr                GetBubbleDrawDescriptor         [Kavrix]"));
-  EXPECT_THAT(result.output, Not(HasSubstr("    scene ")));
-  EXPECT_THAT(result.output, Not(HasSubstr("\x1b[")));
-}
-
-TEST(DecodeCommandTest, TextWithAllShowsDefaultsToo) {
-  EXPECT_THAT(RunTool({"decode", "--format", "text", "--all", kGoodName}).output,
-              HasSubstr("    scene           0\n"));
-}
-
-TEST(DecodeCommandTest, TextEscapesWhatWouldForgeLinesOrColours) {
-  const ToolResult result = RunTool({"decode", "--format", "text"}, "a\x1b[31mb\tc\n");
-  EXPECT_THAT(result.output, HasSubstr("a\\u001b[31mb\\tc\n"));
-  EXPECT_THAT(result.output, Not(HasSubstr("\x1b")));
-}
-
-TEST(DecodeCommandTest, TextShowsStyleWordsInHexadecimalToo) {
-  const std::string text = RunTool({"decode", "--format", "text", "--all", kGoodName}).output;
-  EXPECT_THAT(text, HasSubstr("    style_word      4293216333 (0xffe5484d)\n"));
-  EXPECT_THAT(text, HasSubstr("    style_word_2    4294967295 (0xffffffff)\n"));
-  EXPECT_THAT(text, HasSubstr("    bubble_kind     1\n"));
-}
-
-TEST(DecodeCommandTest, MarkerTypeIsANameInTextAndANumberInJson) {
-  const std::string name = kPrefix + R"({"marker_type":5,"name":"A"}.marker)";
-  EXPECT_THAT(RunTool({"decode", "--marker", "--format", "text", name}).output,
-              HasSubstr("    marker_type  ChargingStation\n"));
-  EXPECT_EQ(
-      RunTool({"decode", "--marker", name}).JsonLines().at(0).at("descriptor").at("own").at("marker_type"),
-      5);
-  const std::string unknown = kPrefix + R"({"marker_type":99}.marker)";
-  EXPECT_THAT(RunTool({"decode", "--marker", "--format", "text", unknown}).output,
-              HasSubstr("    marker_type  99\n"));
-}
-
-TEST(DecodeCommandTest, TextOfAMemberEndsAtItsQuote) {
-  const std::string name = kPrefix + R"({"content":"a\" lan \"\\\n\u001b"}.trafficBubble)";
-  const std::string text = RunTool({"decode", "--format", "text", name}).output;
-  EXPECT_THAT(text, HasSubstr("    content         "
-                              R"("a\" lan \"\\\n\u001b")"
-                              "\n"));
-}
-
-TEST(DecodeCommandTest, OnATerminalTextComesInColourUnlessNoColorIsSet) {
-  const ToolResult colour = RunShell("script -qec \"$TOOL decode nonsense\" /dev/null");
-  EXPECT_THAT(colour.output, HasSubstr("\x1b[1mnonsense\x1b[0m\r\n  kind        \x1b[2mnone\x1b[0m\r\n"));
-  const ToolResult plain = RunShell("NO_COLOR=1 script -qec \"$TOOL decode nonsense\" /dev/null");
-  EXPECT_THAT(plain.output, HasSubstr("nonsense\r\n  kind        none\r\n"));
-}
-
 TEST(DecodeCommandTest, UnusableConfigurationIsTroubleAndNothingIsDecoded) {
   const ToolResult result = RunShell(
       R"(printf '{"bubble_layer":{"turn_style":{"values":[1,1.5]}}}' | "$TOOL" decode --config /dev/stdin x)");
@@ -282,35 +225,6 @@ TEST(DecodeCommandTest, UnbufferedResultsComeBeforeTheInputEnds) {
       "mkfifo /tmp/kavrix_fifo_$$; (echo a; sleep 3) > /tmp/kavrix_fifo_$$ & "
       "timeout 2 \"$TOOL\" decode --unbuffered < /tmp/kavrix_fifo_$$ | head -1; rm /tmp/kavrix_fifo_$$");
   EXPECT_EQ(result.JsonLines().at(0).at("resource_name"), "a");
-}
-
-TEST(DecodeCommandTest, UnknownOptionsAndFormatsAreUsageErrors) {
-  const ToolResult option = RunTool({"decode", "--bogus"});
-  EXPECT_EQ(option.status, 2);
-  EXPECT_THAT(option.errors, HasSubstr("--bogus"));
-  EXPECT_EQ(option.output, "");
-  EXPECT_EQ(RunTool({"decode", "--format", "xml"}).status, 2);
-  EXPECT_EQ(RunTool({}).status, 2);
-  EXPECT_EQ(RunTool({"nonsense"}).status, 2);
-}
-
-TEST(DecodeCommandTest, HelpAndVersionIntoAFullDiskAreTrouble) {
-  for (const std::string what : {"--help", "--version", "decode --help"}) {
-    const ToolResult full = RunShell("\"$TOOL\" " + what + " > /dev/full");
-    EXPECT_EQ(full.status, 2) << what;
-    EXPECT_EQ(full.errors, "kavrix-resource: cannot write standard output: No space left on device\n")
-        << what;
-  }
-}
-
-TEST(DecodeCommandTest, HelpAndVersionSucceed) {
-  const ToolResult help = RunTool({"--help"});
-  EXPECT_EQ(help.status, 0);
-  EXPECT_THAT(help.output, HasSubstr("decode"));
-  EXPECT_EQ(RunTool({"decode", "--help"}).status, 0);
-  const ToolResult version = RunTool({"--version"});
-  EXPECT_EQ(version.status, 0);
-  EXPECT_EQ(version.output, "kavrix-resource " KAVRIX_VERSION "\n");
 }
 
 }  // namespace
