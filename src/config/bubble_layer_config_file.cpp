@@ -99,7 +99,7 @@ class ConfigReader {
   // Reads the digits, not the stored double: the float nearest to that double need not be the float nearest
   // to the digits.
   float ReadFloat(const std::string& where, const Json::Value& value) const {
-    if (!JsonUtil::AsDouble(value)) Fail(where, "a number", value);
+    if (!value.isNumeric()) Fail(where, "a number", value);
     const float number = JsonUtil::NearestFloat(JsonUtil::SourceOf(value, text_));
     if (!std::isfinite(number)) Fail(where, "a number that a float can hold", value);
     return number;

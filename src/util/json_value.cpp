@@ -56,11 +56,6 @@ std::optional<std::int64_t> AsInteger(const Json::Value& value) {
   return value.asInt64();
 }
 
-std::optional<double> AsDouble(const Json::Value& value) {
-  if (!value.isDouble()) return std::nullopt;  // true for integers too
-  return value.asDouble();
-}
-
 std::optional<std::string_view> AsText(const Json::Value& value) {
   const char* begin = nullptr;
   const char* end = nullptr;

@@ -59,9 +59,6 @@ std::optional<int> AsInt(const Json::Value& value);
 // The value when it is stored as an integer that fits 64 signed bits.
 std::optional<std::int64_t> AsInteger(const Json::Value& value);
 
-// The value when it is a number of any kind.
-std::optional<double> AsDouble(const Json::Value& value);
-
 // The bytes of the value, NUL bytes included, when it is a string; they live as long as the value.
 std::optional<std::string_view> AsText(const Json::Value& value);
 
