@@ -1,21 +1,15 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <regex>
 #include <string>
 
+#include "tests/support/read_file.h"
 #include "tests/support/tool.h"
 
 // README.md quotes the programs of examples/ and their output, indented by four blanks.
 namespace kavrix::test {
 namespace {
-
-std::string ReadAll(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
 
 std::string Indented(const std::string& text) {
   std::string indented;
@@ -34,12 +28,12 @@ std::string WithoutSourceLines(const std::string& text) {
 }
 
 TEST(ExamplesTest, ReadmeQuotesEachProgramAndWhatItPrints) {
-  const std::string readme = WithoutSourceLines(ReadAll(KAVRIX_SOURCE_DIR "/README.md"));
+  const std::string readme = WithoutSourceLines(ReadFile(KAVRIX_SOURCE_DIR "/README.md"));
   int programs = 0;
   for (const auto& file : std::filesystem::directory_iterator(KAVRIX_SOURCE_DIR "/examples")) {
     if (file.path().extension() != ".cpp") continue;
     ++programs;
-    const std::string program = Indented(ReadAll(file.path()));
+    const std::string program = Indented(ReadFile(file.path()));
     EXPECT_NE(readme.find(program), std::string::npos) << file.path() << " is not in README.md:\n" << program;
     const ToolResult result =
         RunShell("'" KAVRIX_EXAMPLES_DIR "/example_" + file.path().stem().string() + "'");

@@ -4,18 +4,13 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <nlohmann/json.hpp>
 
+#include "tests/support/read_file.h"
 #include "tests/support/tool.h"
 
 namespace kavrix::test {
 namespace {
-
-std::string ReadAll(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
 
 // The names are taken from the lines themselves: to add one, add a line {"resource_name": "..."} and run the
 // tests with --update-goldens.
@@ -33,7 +28,7 @@ class GoldenTest : public ::testing::TestWithParam<const BubbleKindInfo*> {
 
 TEST_P(GoldenTest, NamesDecodeAsRecorded) {
   const std::string path = GoldenPath(*GetParam());
-  const std::string golden = ReadAll(path);
+  const std::string golden = ReadFile(path);
   ASSERT_FALSE(golden.empty()) << "the kind has no golden file: " << path;
   std::string names;
   for (const std::string& name : GoldenNames(*GetParam())) names += name + '\0';
@@ -49,7 +44,7 @@ TEST_P(GoldenTest, NamesDecodeAsRecorded) {
 }
 
 TEST_P(GoldenTest, SamplesAreOfTheKindAndDecodeWithoutFailure) {
-  const ToolResult result = RunTool(DecodeArguments(), ReadAll(SamplesPath()));
+  const ToolResult result = RunTool(DecodeArguments(), ReadFile(SamplesPath()));
   EXPECT_EQ(result.status, 0);
   const auto lines = result.JsonLines();
   EXPECT_GE(lines.size(), 3U);

@@ -3,12 +3,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <limits>
 
 #include "map_resource/map_resource_transform.h"
 #include "tests/support/global_locale.h"
+#include "tests/support/read_file.h"
 
 namespace kavrix::test {
 namespace {
@@ -163,9 +162,8 @@ TEST(BubbleLayerConfigFileTest, LoadsUnderEveryGlobalLocale) {
 }
 
 TEST(BubbleLayerConfigFileTest, BundledConfigurationLoadsAndNamesEveryRecordThatIsRead) {
-  std::ifstream stream(KAVRIX_SOURCE_DIR "/samples/default_config.json");
-  const std::string text{std::istreambuf_iterator<char>(stream), {}};
-  const BubbleLayerConfigFile file = ParseBubbleLayerConfig(text);
+  const BubbleLayerConfigFile file =
+      ParseBubbleLayerConfig(ReadFile(KAVRIX_SOURCE_DIR "/samples/default_config.json"));
   EXPECT_EQ(file.context_name, "main-map");
   EXPECT_EQ(file.multi_light_type, 0);
   ForEachStyleRecord(file.bubble_layer, [](const std::string& name, const auto& record) {

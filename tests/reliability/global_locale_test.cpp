@@ -6,8 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <nlohmann/json.hpp>
 #include <sstream>
 
@@ -15,6 +13,7 @@
 #include "descriptors/flat_members.h"
 #include "map_resource/bubble_markers.h"
 #include "map_resource/map_resource_transform.h"
+#include "tests/support/read_file.h"
 #include "tests/support/record_collector.h"
 #include "util/utf8.h"
 
@@ -22,11 +21,6 @@ namespace kavrix::test {
 namespace {
 
 using OtherJson = nlohmann::ordered_json;
-
-std::string ReadAll(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
 
 // Returns whether the object in the name holds a number with a point or an exponent outside its strings.
 bool HoldsReal(const std::string& name) {
@@ -120,7 +114,7 @@ class GlobalLocaleTest : public ::testing::Test {
 
   const GlobalLocale other_;
   const BubbleLayerConfigFile config_ =
-      ParseBubbleLayerConfig(ReadAll(KAVRIX_SOURCE_DIR "/samples/default_config.json"));
+      ParseBubbleLayerConfig(ReadFile(KAVRIX_SOURCE_DIR "/samples/default_config.json"));
   std::shared_ptr<KavrixContext> context_ = std::make_shared<KavrixContext>(config_.context_name);
   MapResourceTransform transform_{context_};
   RecordCollector collector_;
@@ -138,7 +132,7 @@ TEST_F(GlobalLocaleTest, NamesWithoutRealsDecodeAsRecorded) {
   std::size_t names_with_reals = 0;
   for (const auto& file : std::filesystem::directory_iterator(KAVRIX_SOURCE_DIR "/tests/golden")) {
     ++files;
-    std::istringstream lines(ReadAll(file.path()));
+    std::istringstream lines(ReadFile(file.path()));
     for (std::string text; std::getline(lines, text);) {
       const OtherJson line = OtherJson::parse(text);
       if (HoldsReal(line.at("resource_name"))) {

@@ -7,9 +7,10 @@
 #include <array>
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <sstream>
 #include <stdexcept>
+
+#include "tests/support/read_file.h"
 
 namespace kavrix::test {
 namespace {
@@ -28,10 +29,7 @@ class TemporaryFile {
   ~TemporaryFile() { unlink(path_.c_str()); }
 
   int Open(int flags) const { return open(path_.c_str(), flags); }
-  std::string Text() const {
-    std::ifstream file(path_, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-  }
+  std::string Text() const { return ReadFile(path_); }
 
  private:
   std::string path_ = "/tmp/kavrix_test_XXXXXX";

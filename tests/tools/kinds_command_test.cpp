@@ -2,10 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <iterator>
 
 #include "map_resource/bubble_kinds.h"
 #include "tests/support/golden.h"
+#include "tests/support/read_file.h"
 #include "tests/support/tool.h"
 
 namespace kavrix::test {
@@ -66,8 +66,7 @@ TEST(KindsCommandTest, UnknownKindIsAUsageErrorThatNamesIt) {
 
 TEST(KindsCommandTest, TheGrammarDocumentIsWhatTheToolPrints) {
   const std::string path = KAVRIX_SOURCE_DIR "/docs/resource-names.md";
-  std::ifstream file(path, std::ios::binary);
-  std::string document{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  const std::string document = ReadFile(path);
   const std::string begin = "<!-- from here on: kavrix-resource kinds --format markdown -->\n\n";
   const std::size_t at = document.find(begin);
   ASSERT_NE(at, std::string::npos);
