@@ -6,9 +6,11 @@
 #include <iomanip>
 #include <limits>
 #include <memory>
+#include <set>
 #include <sstream>
 
 #include "descriptors/descriptors.h"
+#include "map_resource/bubble_kinds.h"
 #include "tests/support/print_descriptor.h"
 
 namespace kavrix::test {
@@ -25,18 +27,24 @@ constexpr char kBaseDefaults[] =
     "scene:0, content:\"\", lan:\"\", bubble_kind:0, type:0, direction:0, mode_flag:false, style_name:\"\", "
     "icon:\"\", style_word:0, style_scale:[0.000000, 0.000000], selected:false, is_force:false";
 
-// Expects every member to be zero, false or empty, and its own members to print after those of the base.
-template <class Descriptor>
-void ExpectNew(const std::string& type_name, const std::string& own_members) {
-  const Descriptor descriptor;
-  EXPECT_EQ(descriptor.TypeName(), type_name);
-  const std::string separator = own_members.empty() ? "" : ", ";
-  EXPECT_EQ(Printed(descriptor), type_name + "{" + kBaseDefaults + separator + own_members + "}");
-  const BubbleDrawDescriptor& base = descriptor;
-  EXPECT_EQ(Printed(base), std::string("BubbleDrawDescriptor{") + kBaseDefaults + "}");
-}
+class NewDescriptorTest : public ::testing::Test {
+ protected:
+  // Expects every member to be zero, false or empty, and its own members to print after those of the base.
+  template <class Descriptor>
+  void ExpectNew(const std::string& type_name, const std::string& own_members) {
+    tested_.insert(type_name);
+    const Descriptor descriptor;
+    EXPECT_EQ(descriptor.TypeName(), type_name);
+    const std::string separator = own_members.empty() ? "" : ", ";
+    EXPECT_EQ(Printed(descriptor), type_name + "{" + kBaseDefaults + separator + own_members + "}");
+    const BubbleDrawDescriptor& base = descriptor;
+    EXPECT_EQ(Printed(base), std::string("BubbleDrawDescriptor{") + kBaseDefaults + "}");
+  }
 
-TEST(BubbleDrawDescriptorTest, EveryTypeBeginsWithDefaultsAndPrintsItsMembersInDeclarationOrder) {
+  std::set<std::string> tested_;
+};
+
+TEST_F(NewDescriptorTest, OfEveryTypeHoldsDefaultsAndPrintsItsMembersInDeclarationOrder) {
   ExpectNew<BubbleDrawDescriptor>("BubbleDrawDescriptor", "");
   ExpectNew<TrafficDrawDescriptor>(
       "TrafficDrawDescriptor",
@@ -75,6 +83,9 @@ TEST(BubbleDrawDescriptorTest, EveryTypeBeginsWithDefaultsAndPrintsItsMembersInD
                                               "target_lane:0, distance:0");
   ExpectNew<MarkerDrawDescriptor>("MarkerDrawDescriptor",
                                   "marker_type:Poi, name:\"\", resource_id:0, is_main_map:false");
+  for (const BubbleKindInfo* const info : AllKindInfos()) {
+    EXPECT_EQ(tested_.count(info->descriptor_type), 1U) << info->descriptor_type << " is not tested here";
+  }
 }
 
 TEST(BubbleDrawDescriptorTest, NewLightHasNoTurnArrow) {
