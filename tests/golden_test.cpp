@@ -5,17 +5,26 @@
 #include <filesystem>
 #include <fstream>
 #include <nlohmann/json.hpp>
+#include <regex>
 
 #include "tests/support/read_file.h"
 #include "tests/support/tool.h"
 
-namespace kavrix::test {
+namespace kavrix {
+
+// googletest calls it to name the kind of a test.
+static void PrintTo(const BubbleKindInfo* info, std::ostream* stream) { *stream << info->marker; }
+
+namespace test {
 namespace {
 
 // The names are taken from the lines themselves: to add one, add a line {"resource_name": "..."} and run the
 // tests with --update-goldens.
 class GoldenTest : public ::testing::TestWithParam<const BubbleKindInfo*> {
  protected:
+  std::string SourcePath() const {
+    return std::string(KAVRIX_SOURCE_DIR "/src/map_resource/") + GetParam()->stem + ".cpp";
+  }
   std::string SamplesPath() const {
     return std::string(KAVRIX_SOURCE_DIR "/samples/") + GetParam()->stem + ".txt";
   }
@@ -24,23 +33,46 @@ class GoldenTest : public ::testing::TestWithParam<const BubbleKindInfo*> {
     if (GetParam()->entry_point == EntryPoint::kMarker) arguments.emplace_back("--marker");
     return arguments;
   }
+  ToolResult DecodeGoldenNames(const std::vector<std::string>& options) const {
+    std::string names;
+    for (const std::string& name : GoldenNames(*GetParam())) names += name + '\0';
+    std::vector<std::string> arguments = DecodeArguments();
+    arguments.emplace_back("--null");
+    arguments.insert(arguments.end(), options.begin(), options.end());
+    return RunTool(arguments, names);
+  }
+  // Returns the keys of the kind without their paths, such as "type" for "cameras[].type".
+  std::vector<std::string> Keys() const {
+    KeyLister lister;
+    GetParam()->codec.list_keys(lister);
+    std::vector<std::string> keys;
+    for (const KeyInfo& info : lister.keys()) keys.push_back(info.key.substr(info.key.rfind('.') + 1));
+    return keys;
+  }
 };
 
 TEST_P(GoldenTest, NamesDecodeAsRecorded) {
   const std::string path = GoldenPath(*GetParam());
   const std::string golden = ReadFile(path);
   ASSERT_FALSE(golden.empty()) << "the kind has no golden file: " << path;
-  std::string names;
-  for (const std::string& name : GoldenNames(*GetParam())) names += name + '\0';
-  std::vector<std::string> arguments = DecodeArguments();
-  arguments.emplace_back("--null");
-  const ToolResult result = RunTool(arguments, names);
+  const ToolResult result = DecodeGoldenNames({});
   EXPECT_EQ(result.errors, "");
   if (update_goldens) {
     std::ofstream(path, std::ios::binary) << result.output;
     return;
   }
   EXPECT_EQ(FirstDifference(golden, result.output), "") << kHowToUpdate;
+}
+
+TEST_P(GoldenTest, EveryKeyIsInANameAndInTheHeadCommentOfTheSource) {
+  const std::string fields = DecodeGoldenNames({"--fields"}).output;
+  const std::string source = ReadFile(SourcePath());
+  const std::string head = source.substr(0, source.find("#include"));
+  for (const std::string& key : Keys()) {
+    EXPECT_NE(fields.find("\"" + key + "\":"), std::string::npos) << key << ": no golden name carries it";
+    EXPECT_TRUE(std::regex_search(head, std::regex("\\b" + key + "\\b")))
+        << key << ": not in the head comment of " << SourcePath();
+  }
 }
 
 TEST_P(GoldenTest, SamplesAreOfTheKindAndDecodeWithoutFailure) {
@@ -68,4 +100,5 @@ INSTANTIATE_TEST_SUITE_P(Kinds, GoldenTest, ::testing::ValuesIn(AllKindInfos()),
                          [](const auto& test) { return test.param->stem; });
 
 }  // namespace
-}  // namespace kavrix::test
+}  // namespace test
+}  // namespace kavrix
