@@ -120,7 +120,7 @@ class NameGenerator {
   std::mt19937 random_{20240229};
 };
 
-TEST(FindBubbleKindTest, AgreesWithTwentyTwoSearchesOnGeneratedNames) {
+TEST(FindBubbleKindTest, AgreesWithASearchForEachMarkerOnGeneratedNames) {
   NameGenerator names;
   int found = 0;
   for (int i = 0; i < 40000; ++i) {
