@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdlib>
 #include <fstream>
+#include <regex>
 #include <sstream>
 #include <stdexcept>
 
@@ -79,6 +80,16 @@ ToolResult RunTool(const std::vector<std::string>& arguments, const std::string&
 
 ToolResult RunShell(const std::string& command) {
   return Run({"/bin/sh", "-c", "TOOL='" KAVRIX_TOOL "'; " + command}, "");
+}
+
+std::vector<std::string> ToolCommands() {
+  const std::regex command_line("^  ([a-z]+) .*");  // an option begins with a dash
+  std::vector<std::string> commands;
+  for (const std::string& line : RunTool({"--help"}).Lines()) {
+    std::smatch match;
+    if (std::regex_match(line, match, command_line)) commands.push_back(match[1]);
+  }
+  return commands;
 }
 
 }  // namespace kavrix::test

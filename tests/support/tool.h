@@ -23,6 +23,9 @@ ToolResult RunTool(const std::vector<std::string>& arguments, const std::string&
 // Runs a shell command in which $TOOL is the tool, for pipes and redirections.
 ToolResult RunShell(const std::string& command);
 
+// Returns the names of the tool's commands, which its help lists.
+std::vector<std::string> ToolCommands();
+
 }  // namespace kavrix::test
 
 #endif  // KAVRIX_TESTS_SUPPORT_TOOL_H_

@@ -1,11 +1,15 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
+#include "tests/support/read_file.h"
 #include "tests/support/tool.h"
 
 namespace kavrix::test {
 namespace {
 
+using ::testing::Contains;
 using ::testing::HasSubstr;
 
 TEST(CommandLineTest, UnknownOptionsAndFormatsAreUsageErrors) {
@@ -35,6 +39,18 @@ TEST(CommandLineTest, HelpAndVersionSucceed) {
   const ToolResult version = RunTool({"--version"});
   EXPECT_EQ(version.status, 0);
   EXPECT_EQ(version.output, "kavrix-resource " KAVRIX_VERSION "\n");
+}
+
+TEST(CommandLineTest, EveryCommandHasItsTestsAndItsPlaceInTheReadme) {
+  const std::vector<std::string> commands = ToolCommands();
+  EXPECT_THAT(commands, Contains("decode"));
+  const std::string readme = ReadFile(KAVRIX_SOURCE_DIR "/README.md");
+  for (const std::string& command : commands) {
+    const std::string tests = "tests/tools/" + command + "_command_test.cpp";
+    EXPECT_TRUE(std::filesystem::exists(KAVRIX_SOURCE_DIR "/" + tests)) << tests << " is missing";
+    EXPECT_NE(readme.find("kavrix-resource " + command + " "), std::string::npos)
+        << "README.md does not show kavrix-resource " << command;
+  }
 }
 
 }  // namespace

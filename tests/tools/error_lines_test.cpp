@@ -11,6 +11,7 @@
 namespace kavrix::test {
 namespace {
 
+using ::testing::Contains;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
@@ -62,6 +63,20 @@ TEST(ErrorLinesTest, TextOfArgumentsIsEscaped) {
   EXPECT_THAT(RunTool({"encode", "--kind", kEvil, "{}"}).errors,
               HasSubstr("no kind is called \"" + kHarmless + "\""));
   EXPECT_THAT(RunTool({"decode", "--" + kEvil}).errors, HasSubstr(kHarmless));
+}
+
+TEST(ErrorLinesTest, EveryCommandEscapesItsArguments) {
+  const std::vector<std::string> commands = ToolCommands();
+  EXPECT_THAT(commands, Contains("decode"));
+  for (const std::string& command : commands) {
+    SCOPED_TRACE(command);
+    const ToolResult option = RunTool({command, "--" + kEvil});
+    EXPECT_EQ(option.status, 2);
+    EXPECT_THAT(option.errors, HasSubstr(kHarmless));
+    ExpectOneHarmlessLine(option);
+    const ToolResult argument = RunTool({command, kEvil});
+    if (!argument.errors.empty()) ExpectOneHarmlessLine(argument);
+  }
 }
 
 TEST(ErrorLinesTest, TextOfInputLinesIsEscaped) {
