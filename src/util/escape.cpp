@@ -33,7 +33,9 @@ void AppendPiece(std::string& line, const Utf8Piece& piece, std::string_view byt
 
 void AppendEscaped(std::string& line, std::string_view text, Quotes quotes) {
   std::size_t plain = 0;  // bytes at the beginning that need no escape, not yet appended
-  while (plain < text.size()) {
+  for (;;) {
+    plain += UnescapedLength(text.substr(plain));
+    if (plain == text.size()) break;
     const Utf8Piece piece = NextUtf8(text.substr(plain));
     if (IsPlain(piece, quotes)) {
       plain += piece.length;

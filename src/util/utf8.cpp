@@ -1,7 +1,8 @@
 #include "util/utf8.h"
 
 #include <cstdint>
-#include <cstring>
+
+#include "util/eight_bytes.h"
 
 namespace kavrix {
 namespace {
@@ -30,13 +31,14 @@ LeadByte LeadByteOf(unsigned char byte) {
 std::size_t AsciiLength(std::string_view text) {
   std::size_t length = 0;
   for (; length + 8 <= text.size(); length += 8) {
-    std::uint64_t eight_bytes = 0;
-    std::memcpy(&eight_bytes, text.data() + length, 8);
-    if ((eight_bytes & 0x8080808080808080u) != 0) break;
+    const std::uint64_t marks = eight_bytes::MarkNonAscii(eight_bytes::Load(text.data() + length));
+    if (marks != 0) return length + eight_bytes::BytesBefore(marks);
   }
   while (length < text.size() && static_cast<unsigned char>(text[length]) < 0x80) ++length;
   return length;
 }
+
+bool IsUnescapedEverywhere(char c) { return c >= 0x20 && c < 0x7F && c != '"' && c != '\\'; }
 
 }  // namespace
 
@@ -72,6 +74,19 @@ std::size_t ValidUtf8Length(std::string_view text) {
     if (!piece.is_valid || piece.length == 0) return length;
     length += piece.length;
   }
+}
+
+std::size_t UnescapedLength(std::string_view text) {
+  std::size_t length = 0;
+  for (; length + 8 <= text.size(); length += 8) {
+    const std::uint64_t word = eight_bytes::Load(text.data() + length);
+    const std::uint64_t marks = eight_bytes::MarkBelow(word, 0x20) | eight_bytes::Mark(word, 0x7F) |
+                                eight_bytes::Mark(word, '"') | eight_bytes::Mark(word, '\\') |
+                                eight_bytes::MarkNonAscii(word);
+    if (marks != 0) return length + eight_bytes::BytesBefore(marks);
+  }
+  while (length < text.size() && IsUnescapedEverywhere(text[length])) ++length;
+  return length;
 }
 
 std::string Excerpt(std::string_view text) {

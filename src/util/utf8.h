@@ -26,6 +26,10 @@ bool IsControl(char32_t c);
 // Returns how many bytes at the beginning are valid characters; the size of the text when all are.
 std::size_t ValidUtf8Length(std::string_view text);
 
+// Returns how many bytes at the beginning are printable ASCII without `"` and `\`, which neither JSON nor a
+// log line escapes.
+std::size_t UnescapedLength(std::string_view text);
+
 // Returns the first 60 characters, and "..." if there are more. For messages.
 std::string Excerpt(std::string_view text);
 
