@@ -11,6 +11,8 @@ namespace {
 // Where the records of this thread's decode go; null: nowhere.
 thread_local std::vector<CapturedRecord>* captured_records = nullptr;
 
+constexpr std::size_t kUsualRecords = 3;  // the most that a decode writes without failing
+
 class CapturingSink : public logging::LogSink {
  public:
   void Write(const logging::LogRecord& record) override {
@@ -38,6 +40,7 @@ Decoder::Decoder(const TransformSetup& setup, EntryPoint entry_point)
 Decoded Decoder::Decode(std::string name) {
   Decoded decoded;
   decoded.name = std::move(name);
+  decoded.records.reserve(kUsualRecords);
   captured_records = &decoded.records;
   try {
     if (entry_point_ == EntryPoint::kMarker) {
