@@ -115,10 +115,7 @@ void AddJsonCases(std::vector<Case>& cases, const Name& name, KeyList key_list) 
                      }});
   };
   add("jsoncpp-job", [key_list](const std::string& payload, Descriptor& descriptor) {
-    Json::Value root;
-    if (!JsonUtil::ParseObject(payload, root)) std::abort();
-    JsonKeyReader keys(root);
-    key_list(keys, descriptor);
+    if (!ReadJsonObject(payload, [&](auto& keys) { key_list(keys, descriptor); })) std::abort();
   });
   add("nlohmann-job", [key_list](const std::string& payload, Descriptor& descriptor) {
     const nlohmann::json root = nlohmann::json::parse(payload, nullptr, false);

@@ -58,16 +58,17 @@ template <class Descriptor, class KeyList>
 void AddParseAndKeys(std::vector<Case>& cases, const Name& name, KeyList key_list) {
   cases.push_back({std::string("parse/") + name.id, [&name] {
                      return [&name] {
-                       Json::Value root;
-                       Use(JsonUtil::ParseObject(name.payload, root));
+                       PayloadNodes payload;
+                       Use(payload.Read(name.payload));
+                       Use(payload);
                      };
                    }});
   cases.push_back({std::string("keys/") + name.id, [&name, key_list] {
-                     const auto root = std::make_shared<Json::Value>();
-                     if (!JsonUtil::ParseObject(name.payload, *root)) std::abort();
-                     return [root, key_list] {
+                     const auto payload = std::make_shared<PayloadNodes>();
+                     if (!payload->Read(name.payload)) std::abort();
+                     return [payload, key_list] {
                        const auto descriptor = std::make_shared<Descriptor>();
-                       JsonKeyReader keys(*root);
+                       JsonKeyReader keys(payload->nodes());
                        key_list(keys, *descriptor);
                        Use(descriptor);
                      };

@@ -4,18 +4,17 @@
 #include "fuzz/vocabulary.h"
 #include "map_resource/map_resource_manager.h"
 #include "map_resource/resource_name.h"
-#include "util/json_value.h"
+#include "payload/json_tree.h"
 
 namespace kavrix::fuzz {
 namespace {
 
 void CheckParse(std::string_view payload) {
   Json::Value alone;
-  const bool parses = JsonUtil::ParseObject(ExactCopy(payload).text(), alone);
+  const bool parses = ParseTree(ExactCopy(payload).text(), alone);
   Json::Value inside;
   const std::string longer = std::string(payload) + "\"}]*/";
-  const bool parses_inside =
-      JsonUtil::ParseObject(std::string_view(longer).substr(0, payload.size()), inside);
+  const bool parses_inside = ParseTree(std::string_view(longer).substr(0, payload.size()), inside);
   Require(parses == parses_inside, "what follows a payload does not change whether it parses");
   if (parses) Require(alone == inside, "what follows a payload is not read");
 }

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes the first inputs of each fuzzer, made from the names of the golden files and the default configuration.
+"""Writes the first inputs of each fuzzer, made from the names of the golden files, the default configuration and fuzz/corpus.
 
 usage: seeds.py ROOT OUTPUT < markers    ROOT of the repository; the markers one a line, as fuzz_dictionary prints them
 """
@@ -23,6 +23,14 @@ def payload_inputs(names, markers):
         for number, marker in enumerate(markers):
             if name.startswith(PREFIX) and name.endswith(marker):
                 yield bytes([number]) + name[len(PREFIX):-len(marker)].encode()
+
+
+def node_inputs(root, names):
+    """Payloads, and what earlier runs of the nodes fuzzer kept."""
+    for name in names:
+        yield name.removeprefix(PREFIX).encode()
+    for line in (root / "fuzz/corpus/nodes.jsonl").read_text(encoding="ascii").splitlines():
+        yield json.loads(line).encode("latin-1")
 
 
 def text_inputs(names):
@@ -59,6 +67,7 @@ def main():
     inputs = {
         "names": [name.encode() for name in names],
         "payloads": payload_inputs(names, markers),
+        "nodes": node_inputs(root, names),
         "round_trip": payload_inputs(names, markers),
         "texts": text_inputs(names),
         "config": config_inputs(root),

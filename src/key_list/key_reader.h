@@ -1,103 +1,109 @@
 #ifndef KAVRIX_KEY_LIST_KEY_READER_H_
 #define KAVRIX_KEY_LIST_KEY_READER_H_
 
-#include <array>
-#include <optional>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
+#include "payload/payload_nodes.h"
 #include "util/fields.h"
-#include "util/json_value.h"
 
 // A key list is a function template that lists what a resource name carries, in reading order, by calling
 // verbs of its first argument. The decoder passes one of the readers below.
 namespace kavrix {
 
 // Reads from a JSON object. A key that is absent or of another type counts as holding the member's current
-// value. Any other JSON value counts as an empty object.
+// value. Any other JSON value counts as an empty object. Keys are literals, so that comparing one with a
+// member's costs a few instructions and not a call.
 class JsonKeyReader {
  public:
-  explicit JsonKeyReader(const Json::Value& object)
-      : object_(object), member_count_(JsonUtil::ListMembers(object, members_)) {}
+  // Reads from the root.
+  explicit JsonKeyReader(const NodeList& nodes) : JsonKeyReader(nodes, 0) {}
 
-  void Text(std::string_view key, std::string& text) {
-    const Json::Value* const value = Find(key);
-    if (value == nullptr) return;
-    if (const auto found = JsonUtil::AsText(*value)) text = *found;
+  template <std::size_t N>
+  void Text(const char (&key)[N], std::string& text) {
+    const Node* const value = Find(key);
+    if (value != nullptr && value->type == NodeType::kText) AssignText(*value, text);
   }
 
   // Narrows to the member's width. Only writers use the default: here the member already holds it.
-  template <class Int>
-  void Integer(std::string_view key, Int& number, [[maybe_unused]] int default_value = 0) {
+  template <std::size_t N, class Int>
+  void Integer(const char (&key)[N], Int& number, [[maybe_unused]] int default_value = 0) {
     number = static_cast<Int>(IntOr(key, number));
   }
 
   // Three rules for flags. An absent key counts as the flag's current value, 0 or 1, which TrueWhenZero
   // inverts.
-  void TrueWhenZero(std::string_view key, bool& flag) { flag = IntOr(key, flag ? 1 : 0) == 0; }
-  void TrueWhenOne(std::string_view key, bool& flag) { flag = IntOr(key, flag ? 1 : 0) == 1; }
-  void TrueWhenNonZero(std::string_view key, bool& flag) { flag = IntOr(key, flag ? 1 : 0) != 0; }
+  template <std::size_t N>
+  void TrueWhenZero(const char (&key)[N], bool& flag) {
+    flag = IntOr(key, flag ? 1 : 0) == 0;
+  }
+  template <std::size_t N>
+  void TrueWhenOne(const char (&key)[N], bool& flag) {
+    flag = IntOr(key, flag ? 1 : 0) == 1;
+  }
+  template <std::size_t N>
+  void TrueWhenNonZero(const char (&key)[N], bool& flag) {
+    flag = IntOr(key, flag ? 1 : 0) != 0;
+  }
 
   // Appends one item for each element of an array, whatever its type. `item_keys(keys, item)` is the item's
   // key list.
-  template <class Item, class ItemKeys>
-  void Objects(std::string_view key, std::vector<Item>& items, ItemKeys item_keys) {
-    const Json::Value* const array = FindArray(key);
-    if (array == nullptr) return;
-    items.reserve(items.size() + array->size());
-    for (const Json::Value& element : *array) {
-      Item item;
-      JsonKeyReader keys(element);
-      item_keys(keys, item);
-      items.push_back(std::move(item));
+  template <std::size_t N, class Item, class ItemKeys>
+  void Objects(const char (&key)[N], std::vector<Item>& items, ItemKeys item_keys) {
+    const Node* const array = Find(key);
+    if (array == nullptr || array->type != NodeType::kArray) return;
+    std::size_t place = items.size() + CountElements(*array);
+    items.resize(place);
+    for (std::uint32_t element = array->last; element != 0; element = nodes_[element].previous) {
+      JsonKeyReader keys(nodes_, element);
+      item_keys(keys, items[--place]);
     }
   }
 
   // Appends the elements of an array that are strings and ignores the others.
-  void Texts(std::string_view key, std::vector<std::string>& texts) {
-    const Json::Value* const array = FindArray(key);
-    if (array == nullptr) return;
-    for (const Json::Value& element : *array) {
-      if (const auto text = JsonUtil::AsText(element)) texts.emplace_back(*text);
-    }
+  template <std::size_t N>
+  void Texts(const char (&key)[N], std::vector<std::string>& texts) {
+    const Node* const array = Find(key);
+    if (array != nullptr && array->type == NodeType::kArray) AppendTexts(*array, texts);
   }
 
  private:
-  int IntOr(std::string_view key, int current) const {
-    const Json::Value* const value = Find(key);
-    return value == nullptr ? current : JsonUtil::AsInt(*value).value_or(current);
+  JsonKeyReader(const NodeList& nodes, std::uint32_t value)
+      : nodes_(nodes), last_member_(nodes[value].type == NodeType::kObject ? nodes[value].last : 0) {}
+
+  template <std::size_t N>
+  int IntOr(const char (&key)[N], int current) const {
+    const Node* const value = Find(key);
+    return value != nullptr && value->type == NodeType::kInteger ? value->number : current;
   }
 
-  // Comparing keys along the listed members costs half of looking each key up in the object's map. Only an
-  // object with more members than any kind has keys is looked up in its map.
-  const Json::Value* Find(std::string_view key) const {
-    if (!member_count_) return JsonUtil::Find(object_, key);
-    for (std::size_t i = 0; i < *member_count_; ++i) {
-      if (members_[i].Has(key)) return members_[i].value;
+  // Searches from the last member: of two with one key the later one counts.
+  template <std::size_t N>
+  const Node* Find(const char (&key)[N]) const {
+    for (std::uint32_t member = last_member_; member != 0; member = nodes_[member].previous) {
+      const Node& node = nodes_[member];
+      if (node.key_length == N - 1 && std::memcmp(node.key, key, N - 1) == 0) return &node;
     }
     return nullptr;
   }
 
-  const Json::Value* FindArray(std::string_view key) const {
-    const Json::Value* const value = Find(key);
-    return value != nullptr && value->isArray() ? value : nullptr;
-  }
+  std::size_t CountElements(const Node& array) const;
+  void AppendTexts(const Node& array, std::vector<std::string>& texts) const;
 
-  static constexpr std::size_t kMostMembers = 24;
-
-  const Json::Value& object_;
-  std::array<JsonUtil::Member, kMostMembers> members_;
-  std::optional<std::size_t> member_count_;  // nullopt: more than kMostMembers
+  const NodeList& nodes_;
+  const std::uint32_t last_member_;
 };
 
 // Calls `list` with a reader of the JSON object in `text`; false when `text` is not one.
 template <class List>
 bool ReadJsonObject(std::string_view text, List list) {
-  Json::Value root;
-  if (!JsonUtil::ParseObject(text, root)) return false;
-  JsonKeyReader keys(root);
+  PayloadNodes payload;
+  if (!payload.Read(text)) return false;
+  JsonKeyReader keys(payload.nodes());
   list(keys);
   return true;
 }

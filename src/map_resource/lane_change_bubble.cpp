@@ -30,7 +30,8 @@ struct LaneChangeFormat : WholeNameFormat<LaneChangeFormat, HDLaneChangeBubbleDr
 }  // namespace
 
 bool HDLaneChangeBubbleDrawDescriptor::InitWithJson(const std::string& text) {
-  return LaneChangeFormat::Read(LaneChangeFormat::PayloadOf(text), *this);
+  const std::string copy = text;  // which may be a member of this object
+  return LaneChangeFormat::Read(LaneChangeFormat::PayloadOf(copy), *this);
 }
 
 std::string EncodeLaneChangeResourceName(const HDLaneChangeBubbleDrawDescriptor& change) {

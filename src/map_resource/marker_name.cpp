@@ -63,7 +63,8 @@ void MapResourceTransform::GetMarkerDrawDescriptor(const std::string& resource_n
 void MapResourceTransform::ParseMarkerResourceName(const Json::Value& value,
                                                    std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto marker = Publish<MarkerDrawDescriptor>(out);
-  JsonKeyReader keys(value);
+  const PayloadNodes payload(value);
+  JsonKeyReader keys(payload.nodes());
   MarkerFormat::List(keys, *marker);
   Complete(*marker);
 }

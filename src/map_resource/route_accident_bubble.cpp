@@ -30,7 +30,8 @@ struct RouteAccidentFormat : WholeNameFormat<RouteAccidentFormat, RouteAccidentB
 }  // namespace
 
 bool RouteAccidentBubbleDrawDescriptor::InitWithJson(const std::string& text) {
-  return RouteAccidentFormat::Read(RouteAccidentFormat::PayloadOf(text), *this);
+  const std::string copy = text;  // which may be a member of this object
+  return RouteAccidentFormat::Read(RouteAccidentFormat::PayloadOf(copy), *this);
 }
 
 void MapResourceTransform::ParseRouteAccidentResourceName(const std::string& resource_name,

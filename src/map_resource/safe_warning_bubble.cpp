@@ -48,7 +48,8 @@ Payload PayloadFor(const SafeWarningFormat&, const KeyWriter& written,
 }  // namespace
 
 bool SafeWarningBubbleDrawDescriptor::InitWithJson(const std::string& text) {
-  return ReadJsonObject(text, [&](auto& keys) { SafeWarningFormat::List(keys, *this); });
+  const std::string copy = text;  // which may be a member of this object
+  return ReadJsonObject(copy, [&](auto& keys) { SafeWarningFormat::List(keys, *this); });
 }
 
 void MapResourceTransform::ParseSafeWarningResourceName(const std::string& resource_name,

@@ -29,7 +29,8 @@ struct YawNoticeFormat : WholeNameFormat<YawNoticeFormat, YawNoticeBubbleDrawDes
 }  // namespace
 
 bool YawNoticeBubbleDrawDescriptor::InitWithJson(const std::string& text) {
-  return YawNoticeFormat::Read(YawNoticeFormat::PayloadOf(text), *this);
+  const std::string copy = text;  // which may be a member of this object
+  return YawNoticeFormat::Read(YawNoticeFormat::PayloadOf(copy), *this);
 }
 
 std::string EncodeYawNoticeResourceName(const YawNoticeBubbleDrawDescriptor& notice) {

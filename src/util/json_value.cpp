@@ -1,30 +1,11 @@
 #include "util/json_value.h"
 
-#include <json/reader.h>
 #include <json/writer.h>
 
-#include "util/json_nesting.h"
 #include "util/strict_json.h"
 #include "util/utf8.h"
 
-// Some JsonCpp versions mark the legacy reader as deprecated. It stays: what it accepts is part of what a
-// name means.
-#if defined(__GNUC__)
-#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
-#endif
-
 namespace kavrix::JsonUtil {
-
-bool ParseObject(std::string_view text, Json::Value& root) {
-  // A text no longer than the limit cannot nest deeper: so many brackets leave no room for a value.
-  if (text.size() > kDeepestValue && IsNestedDeeperThan(text, kDeepestValue)) return false;
-  try {
-    Json::Reader reader;
-    return reader.parse(text.data(), text.data() + text.size(), root, false) && root.isObject();
-  } catch (const Json::Exception&) {
-    return false;
-  }
-}
 
 bool ParseStrictly(const std::string& text, Json::Value& root, std::string& error) {
   try {

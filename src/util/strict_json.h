@@ -9,7 +9,7 @@
 #include <string_view>
 
 // Reads JSON as RFC 8259 defines it, for what people write: configurations and the fields of bubbles.
-// Payloads are read leniently, by JsonUtil::ParseObject. The locale makes no difference here.
+// Payloads are read leniently, by ParseTree of payload/json_tree.h. The locale makes no difference here.
 namespace kavrix::JsonUtil {
 
 // The deepest value that ReadStrictly accepts; the root is at depth 1, a value inside n arrays and objects at

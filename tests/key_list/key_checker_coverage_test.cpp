@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "key_list/key_checker.h"
-#include "util/json_value.h"
+#include "payload/json_tree.h"
 
 namespace kavrix::test {
 namespace {
@@ -14,7 +14,7 @@ class KeyCheckerTest : public ::testing::Test {
   // Returns the checker's message about the member "k" of `object`; empty when it accepts it.
   template <class Read>
   std::string ErrorOf(const std::string& object, Read read) {
-    EXPECT_TRUE(JsonUtil::ParseObject(object, object_)) << object;
+    EXPECT_TRUE(ParseTree(object, object_)) << object;
     KeyChecker keys(object_);
     try {
       read(keys);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <memory>
 
 namespace kavrix::test {
 namespace {
@@ -23,8 +24,10 @@ void ItemKeys(JsonKeyReader& keys, Item& item) { keys.Integer("n", item.number);
 class JsonKeyReaderTest : public ::testing::Test {
  protected:
   JsonKeyReader Reader(const std::string& text) {
-    EXPECT_TRUE(JsonUtil::ParseObject(text, object_)) << text;
-    return JsonKeyReader(object_);
+    text_ = text;
+    payload_ = std::make_unique<PayloadNodes>();
+    EXPECT_TRUE(payload_->Read(text_)) << text;
+    return JsonKeyReader(payload_->nodes());
   }
   std::string ReadText(const std::string& value) {
     std::string text = "current";
@@ -37,7 +40,7 @@ class JsonKeyReaderTest : public ::testing::Test {
     Reader(R"({"k":)" + value + "}").Integer("k", number);
     return number;
   }
-  using Rule = void (JsonKeyReader::*)(std::string_view, bool&);
+  using Rule = void (JsonKeyReader::*)(const char (&)[2], bool&);
   bool ReadFlag(Rule rule, bool current, const std::string& object) {
     JsonKeyReader reader = Reader(object);
     (reader.*rule)("k", current);
@@ -45,7 +48,8 @@ class JsonKeyReaderTest : public ::testing::Test {
   }
 
  private:
-  Json::Value object_;
+  std::string text_;  // which the nodes point into
+  std::unique_ptr<PayloadNodes> payload_;
 };
 
 TEST_F(JsonKeyReaderTest, TextIsTakenOnlyFromAString) {

@@ -1,8 +1,8 @@
 #include <limits>
 #include <locale>
 
+#include "payload/json_tree.h"
 #include "tests/support/decode_test.h"
-#include "util/json_value.h"
 
 namespace kavrix::test {
 namespace {
@@ -186,12 +186,38 @@ TEST_F(MarkerNameTest, NameShorterThanThePrefixThrowsWithOutUntouched) {
 
 TEST_F(MarkerNameTest, ParsedObjectFillsANewMarkerWithoutATransform) {
   Json::Value root;
-  ASSERT_TRUE(JsonUtil::ParseObject(R"({"marker_type":12,"name":"Home"})", root));
+  ASSERT_TRUE(ParseTree(R"({"marker_type":12,"name":"Home"})", root));
   const auto earlier = std::make_shared<MarkerDrawDescriptor>();
   out_ = earlier;
   MapResourceTransform::ParseMarkerResourceName(root, out_);
   EXPECT_NE(out_, earlier);
   EXPECT_EQ(Base().content, "kavrix://resource/home_Home");
+}
+
+TEST_F(MarkerNameTest, ParsedObjectGivesTheMarkerThatItsNameGives) {
+  for (const std::string payload :
+       {R"({})", R"({"lan":"zh","mode":0,"scene":2,"direction":-1,"marker_type":12,"name":"Home"})",
+        R"({"name":"a\u0041\n\u0000b","resource_id":2147483647,"is_main_map":2})",
+        R"({"name":"first","name":"last","marker_type":1.0,"scene":3000000000,"mode":"0"})",
+        R"({"name":["x"],"lan":null,"is_main_map":true,"other":{"name":"deep"},"":0})",
+        R"({/**/"name":"a comment","marker_type":3})", R"({"n\u0061me":"an escaped key"})"}) {
+    Json::Value root;
+    ASSERT_TRUE(ParseTree(payload, root)) << payload;
+    MapResourceTransform::ParseMarkerResourceName(root, out_);
+    const auto from_value = out_;
+    DecodeMarkerWhole(MapResourceManager::kavrix_resource_prefix + payload + ".marker");
+    EXPECT_EQ(*out_, *from_value) << payload;
+  }
+}
+
+TEST_F(MarkerNameTest, ParsedValueThatIsNoObjectGivesAMarkerWithoutAName) {
+  for (const Json::Value& value :
+       {Json::Value(), Json::Value(5), Json::Value("name"), Json::Value(Json::arrayValue)}) {
+    MapResourceTransform::ParseMarkerResourceName(value, out_);
+    const auto from_value = out_;
+    DecodeMarkerWhole(MapResourceManager::kavrix_resource_prefix + std::string("{}.marker"));
+    EXPECT_EQ(*out_, *from_value) << value.type();
+  }
 }
 
 TEST_F(MarkerNameTest, DispatcherNeverTakesAMarkerName) {

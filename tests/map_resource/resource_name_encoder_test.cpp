@@ -4,11 +4,11 @@
 #include <random>
 
 #include "map_resource/bubble_kinds.h"
+#include "payload/json_tree.h"
 #include "tests/support/carried_fields.h"
 #include "tests/support/decode_test.h"
 #include "tests/support/golden.h"
 #include "tests/support/random_fields.h"
-#include "util/json_value.h"
 
 namespace kavrix::test {
 namespace {
@@ -40,7 +40,7 @@ TEST_F(ResourceNameEncoderTest, FieldsOfEveryKindComeBackAndTheirBubbleGivesTheS
       const Json::Value fields = random.Make(*info);
       const std::string name = info->codec.encode_fields(fields);
       Json::Value read_back;
-      ASSERT_TRUE(JsonUtil::ParseObject(info->codec.read_fields(name).value(), read_back)) << name;
+      ASSERT_TRUE(ParseTree(info->codec.read_fields(name).value(), read_back)) << name;
       ASSERT_EQ(CompleteFields(*info, read_back), CompleteFields(*info, fields)) << name;
       DecodeAs(info->entry_point, name);
       const bool is_navigating = CompleteFields(*info, fields).get("nav_mode", 1) == 1;
@@ -54,7 +54,7 @@ TEST_F(ResourceNameEncoderTest, FieldsOfEveryKindComeBackAndTheirBubbleGivesTheS
 // Encodes the fields of the name again.
 std::string EncodedAgain(const BubbleKindInfo& info, const std::string& name) {
   Json::Value fields;
-  EXPECT_TRUE(JsonUtil::ParseObject(info.codec.read_fields(name).value(), fields));
+  EXPECT_TRUE(ParseTree(info.codec.read_fields(name).value(), fields));
   return info.codec.encode_fields(fields);
 }
 
@@ -102,7 +102,7 @@ TEST_F(ResourceNameEncoderTest, CanonicalFormOfADecodableNameDecodesTheSame) {
       DecodeAs(info->entry_point, name);
       const auto original = out_;
       Json::Value json;
-      ASSERT_TRUE(JsonUtil::ParseObject(*fields, json));
+      ASSERT_TRUE(ParseTree(*fields, json));
       const std::string canonical = info->codec.encode_fields(json);
       DecodeAs(info->entry_point, canonical);
       EXPECT_EQ(*out_, *original) << name << " became " << canonical;

@@ -131,6 +131,14 @@ TEST_F(SafeWarningBubbleTest, InitWithJsonTakesABareObjectText) {
   EXPECT_EQ(warning.category, 5);
 }
 
+TEST_F(SafeWarningBubbleTest, InitWithJsonReadsFromATextOfTheBubbleItself) {
+  SafeWarningBubbleDrawDescriptor warning;
+  warning.content = R"({"content":"a text of more than fifteen bytes","category":5})";
+  EXPECT_TRUE(warning.InitWithJson(warning.content));
+  EXPECT_EQ(warning.content, "a text of more than fifteen bytes");
+  EXPECT_EQ(warning.category, 5);
+}
+
 TEST_F(SafeWarningBubbleTest, NameWithPrefixButShorterThanTheMarkerIsParsedToItsEnd) {
   transform_.ParseSafeWarningResourceName(MapResourceManager::kavrix_resource_prefix + std::string("{}@90"),
                                           out_);

@@ -7,9 +7,9 @@
 #include <optional>
 #include <random>
 
+#include "payload/json_nesting.h"
 #include "tests/support/decode_test.h"
 #include "tests/support/effort.h"
-#include "util/json_nesting.h"
 
 #if defined(__GNUC__)
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
@@ -118,8 +118,8 @@ TEST(NestingSoupTest, TakesTextsApartAsTheReaderDoes) {
     if (!result.accepted) continue;
     ++accepted;
     const std::size_t depth = DepthOf(result.root);
-    EXPECT_FALSE(JsonUtil::IsNestedDeeperThan(text, depth)) << text;
-    EXPECT_TRUE(depth == 1 || JsonUtil::IsNestedDeeperThan(text, depth - 1)) << text;
+    EXPECT_FALSE(kavrix::IsNestedDeeperThan(text, depth)) << text;
+    EXPECT_TRUE(depth == 1 || kavrix::IsNestedDeeperThan(text, depth - 1)) << text;
     if (HasFailure()) break;
   }
   EXPECT_GT(accepted, 1'000);
@@ -150,7 +150,7 @@ TEST(NestingSoupTest, MissesNothingThatTheReaderGoesDownInto) {
     ++too_deep;
     // The reader throws before it knows whether a value follows. The added end gives it one, inside a comment
     // or not.
-    EXPECT_TRUE(JsonUtil::IsNestedDeeperThan(text + "\n*/1", limit)) << text;
+    EXPECT_TRUE(kavrix::IsNestedDeeperThan(text + "\n*/1", limit)) << text;
     if (HasFailure()) break;
   }
   EXPECT_GT(too_deep, 100);

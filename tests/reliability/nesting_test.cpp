@@ -1,21 +1,31 @@
 // Decodes payloads nested to the limit and beyond it: the result is the same with every JsonCpp and on a
 // small stack, and only brackets that the reader takes for brackets count.
 
+#include <json/reader.h>
+
 #include <algorithm>
 #include <iostream>
 #include <optional>
 
+#include "descriptors/descriptors.h"
 #include "map_resource/bubble_kinds.h"
+#include "payload/json_tree.h"
+#include "payload/plain_scanner.h"
 #include "tests/support/carried_fields.h"
 #include "tests/support/decode_test.h"
 #include "tests/support/json_tail.h"
 #include "tests/support/thread_stack.h"
-#include "util/json_value.h"
+
+// Some JsonCpp versions mark the legacy reader deprecated.
+#if defined(__GNUC__)
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+#endif
 
 namespace kavrix::test {
 namespace {
 
-constexpr std::size_t kLimit = JsonUtil::kDeepestValue;
+constexpr std::size_t kLimit = kDeepestTreeValue;  // of a payload that is not plain
+constexpr std::size_t kPlainLimit = kDeepestPlainValue;
 
 std::string Repeated(const std::string& text, std::size_t times) {
   std::string repeated;
@@ -44,7 +54,7 @@ const std::vector<std::string> kInnermost = {"1", "null", R"("t")", "[]", "{}", 
 
 bool Parses(const std::string& text) {
   Json::Value root;
-  return JsonUtil::ParseObject(text, root);
+  return ParseTree(text, root);
 }
 
 TEST(NestingTest, ValuesAtTheLimitParseAndOneDeeperDoNot) {
@@ -116,16 +126,23 @@ class DeepNameTest : public DecodeTest {
   }
 };
 
+// A payload with a value at `depth` that JsonCpp has to read: it holds a comment.
+std::string NestedWithComment(const std::vector<std::string>& openings, std::size_t depth) {
+  return Nested(openings, "1/**/", depth);
+}
+
 TEST_F(DeepNameTest, EveryJsonKindTakesATooDeepPayloadForABrokenOne) {
   const std::string broken = R"({"content":"read",})";
-  const std::string deep = Nested({"["}, "1", kLimit + 1);
   for (const std::string& tail : TailsOfJsonKinds()) {
     Decode(broken + tail);
     const auto expected = out_;
     const auto expected_records = RecordsWithout(broken);
-    Decode(deep + tail);
-    EXPECT_EQ(*out_, *expected) << tail;
-    EXPECT_EQ(RecordsWithout(deep), expected_records) << tail;
+    for (const std::string& deep :
+         {Nested({"["}, "1", kPlainLimit + 1), NestedWithComment({"["}, kLimit + 1)}) {
+      Decode(deep + tail);
+      EXPECT_EQ(*out_, *expected) << tail;
+      EXPECT_EQ(RecordsWithout(deep), expected_records) << tail;
+    }
   }
 }
 
@@ -134,17 +151,48 @@ TEST_F(DeepNameTest, EveryJsonKindReadsAPayloadAtTheLimit) {
   for (const std::string& tail : TailsOfJsonKinds()) {
     Decode(flat + tail);
     const auto expected = out_;
-    Decode(Nested({R"({"k":)", "["}, "1", kLimit) + tail);
-    EXPECT_EQ(*out_, *expected) << tail;
+    for (const auto& shape : kShapes) {
+      Decode(Nested(shape, "1", kPlainLimit) + tail);
+      EXPECT_EQ(*out_, *expected) << tail << shape[0];
+      Decode(NestedWithComment(shape, kLimit) + tail);
+      EXPECT_EQ(*out_, *expected) << tail << shape[0];
+    }
   }
 }
 
-TEST_F(DeepNameTest, MarkerNamesHaveTheSameLimit) {
+TEST_F(DeepNameTest, PlainPayloadsGoAsDeepAsJsonCppDoes) {
+  const auto decodes_all = [this](const std::string& payload) {
+    Decode(payload + ".trafficBubble");
+    Json::Value root;
+    bool parses = false;
+    try {
+      parses = Json::Reader().parse(payload, root, false);
+    } catch (const Json::Exception&) {
+      parses = false;
+    }
+    EXPECT_EQ(Out<TrafficDrawDescriptor>().content == "read", parses);
+    return parses;
+  };
+  for (const auto& shape : kShapes) {
+    for (const std::string innermost : {"1", "null", R"("t")", "[]", "{}"}) {
+      EXPECT_TRUE(decodes_all(Nested(shape, innermost, kPlainLimit - 1))) << shape[0] << innermost;
+      EXPECT_TRUE(decodes_all(Nested(shape, innermost, kPlainLimit))) << shape[0] << innermost;
+      EXPECT_FALSE(decodes_all(Nested(shape, innermost, kPlainLimit + 1))) << shape[0] << innermost;
+    }
+  }
+}
+
+TEST_F(DeepNameTest, MarkerNamesHaveTheSameLimits) {
   const std::string prefix = MapResourceManager::kavrix_resource_prefix;
-  transform_.GetMarkerDrawDescriptor(prefix + Nested({"["}, "1", kLimit + 1) + ".marker", out_);
-  EXPECT_EQ(out_, nullptr);
-  transform_.GetMarkerDrawDescriptor(prefix + Nested({"["}, "1", kLimit) + ".marker", out_);
-  EXPECT_NE(out_, nullptr);
+  const auto decodes = [&](const std::string& payload) {
+    out_ = nullptr;
+    transform_.GetMarkerDrawDescriptor(prefix + payload + ".marker", out_);
+    return out_ != nullptr;
+  };
+  EXPECT_FALSE(decodes(Nested({"["}, "1", kPlainLimit + 1)));
+  EXPECT_TRUE(decodes(Nested({"["}, "1", kPlainLimit)));
+  EXPECT_FALSE(decodes(NestedWithComment({"["}, kLimit + 1)));
+  EXPECT_TRUE(decodes(NestedWithComment({"["}, kLimit)));
 }
 
 // Sanitizers make stack frames larger than a client's.
@@ -163,14 +211,16 @@ TEST_F(DeepNameTest, TheDeepestNamesDecodeOnAThreadWithASmallStack) {
     for (const std::string& tail : TailsOfJsonKinds()) {
       Decode(R"({"content":"read","nest":0})" + tail);
       const auto expected = out_;
-      most = std::max(most, stack_used(Nested(shape, "1", kLimit) + tail));
+      most = std::max(most, stack_used(NestedWithComment(shape, kLimit) + tail));
+      EXPECT_EQ(*out_, *expected) << tail;
+      most = std::max(most, stack_used(Nested(shape, "1", kPlainLimit) + tail));
       EXPECT_EQ(*out_, *expected) << tail;
     }
   }
   std::cout << "the deepest names used " << most << " bytes of stack\n";
 
   for (const auto& shape : kShapes) {
-    for (const std::size_t depth : {kLimit + 1, kLimit + 100, 2 * kLimit, 100 * kLimit}) {
+    for (const std::size_t depth : {kLimit + 1, 2 * kLimit, kPlainLimit + 1, 100 * kLimit}) {
       EXPECT_LE(stack_used(Nested(shape, "1", depth) + ".trafficBubble"), most) << shape[0] << depth;
       EXPECT_LE(stack_used(R"({"k":)" + Repeated(shape[0], depth) + ".trafficBubble"), most)
           << shape[0] << depth;

@@ -91,6 +91,15 @@ TYPED_TEST_P(WholeNameBubbleTest, InitWithJsonTellsWhetherItFoundAnObject) {
   EXPECT_EQ(bubble.scene, 3);
 }
 
+TYPED_TEST_P(WholeNameBubbleTest, InitWithJsonReadsFromATextOfTheBubbleItself) {
+  typename TypeParam::Descriptor bubble;
+  bubble.content = R"({"content":"a text of more than fifteen bytes","lan":"zh","scene":3})";
+  EXPECT_TRUE(bubble.InitWithJson(bubble.content));
+  EXPECT_EQ(bubble.content, "a text of more than fifteen bytes");
+  EXPECT_EQ(bubble.lan, "zh");
+  EXPECT_EQ(bubble.scene, 3);
+}
+
 REGISTER_TYPED_TEST_SUITE_P(WholeNameBubbleTest, KindCodeStaysZeroAndNoStyleIsRead,
                             NothingIsLoggedBesideTheRequest,
                             NameWithoutAReadableObjectGivesANewDescriptorAsConstructed,
@@ -98,7 +107,8 @@ REGISTER_TYPED_TEST_SUITE_P(WholeNameBubbleTest, KindCodeStaysZeroAndNoStyleIsRe
                             ForceCountsOnlyWhenOneAndUnderItsKeyWithTheUnderscore,
                             TypeAndDirectionAreNarrowedTo16Bits, BracesInsideTextsBelongToTheText,
                             NameWithoutThePrefixIsReadAsWell, TextAroundTheObjectIsIgnored,
-                            InitWithJsonTellsWhetherItFoundAnObject);
+                            InitWithJsonTellsWhetherItFoundAnObject,
+                            InitWithJsonReadsFromATextOfTheBubbleItself);
 
 }  // namespace kavrix::test
 

@@ -5,6 +5,7 @@
 
 #include <type_traits>
 
+#include "payload/json_tree.h"
 #include "util/json_value.h"
 
 namespace kavrix::test {
@@ -17,7 +18,7 @@ static_assert(
 
 Json::Value Object(const std::string& text) {
   Json::Value root;
-  EXPECT_TRUE(JsonUtil::ParseObject(text, root)) << text;
+  EXPECT_TRUE(ParseTree(text, root)) << text;
   return root;
 }
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "util/json_nesting.h"
+#include "payload/json_nesting.h"
 
 namespace kavrix::test {
 namespace {
@@ -11,7 +11,7 @@ namespace {
 // Scans a copy with no byte after it; the sanitizers see a read past its end.
 bool IsNestedDeeperThan(const std::string& text, std::size_t limit) {
   const std::vector<char> bytes(text.begin(), text.end());
-  return JsonUtil::IsNestedDeeperThan({bytes.data(), bytes.size()}, limit);
+  return kavrix::IsNestedDeeperThan({bytes.data(), bytes.size()}, limit);
 }
 
 TEST(JsonNestingTest, BlanksOfEveryKindStandBetweenBrackets) {

@@ -1,10 +1,10 @@
-#ifndef KAVRIX_UTIL_JSON_NESTING_H_
-#define KAVRIX_UTIL_JSON_NESTING_H_
+#ifndef KAVRIX_PAYLOAD_JSON_NESTING_H_
+#define KAVRIX_PAYLOAD_JSON_NESTING_H_
 
 #include <cstddef>
 #include <string_view>
 
-namespace kavrix::JsonUtil {
+namespace kavrix {
 
 // Whether JsonCpp's legacy reader, given `text`, would come to a value deeper than `limit`. The root is at
 // depth 1, a value inside n arrays and objects at depth n + 1. Brackets in strings, in comments and after the
@@ -12,6 +12,6 @@ namespace kavrix::JsonUtil {
 // there.
 bool IsNestedDeeperThan(std::string_view text, std::size_t limit);
 
-}  // namespace kavrix::JsonUtil
+}  // namespace kavrix
 
-#endif  // KAVRIX_UTIL_JSON_NESTING_H_
+#endif  // KAVRIX_PAYLOAD_JSON_NESTING_H_

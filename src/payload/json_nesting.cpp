@@ -1,9 +1,9 @@
-#include "util/json_nesting.h"
+#include "payload/json_nesting.h"
 
 #include <algorithm>
 #include <string>
 
-namespace kavrix::JsonUtil {
+namespace kavrix {
 namespace {
 
 // "[" and "{" differ in one bit.
@@ -91,4 +91,4 @@ bool IsNestedDeeperThan(std::string_view text, std::size_t limit) {
   return NestingScanner(text).ComesDeeperThan(limit);
 }
 
-}  // namespace kavrix::JsonUtil
+}  // namespace kavrix

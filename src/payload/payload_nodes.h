@@ -1,0 +1,36 @@
+#ifndef KAVRIX_PAYLOAD_PAYLOAD_NODES_H_
+#define KAVRIX_PAYLOAD_PAYLOAD_NODES_H_
+
+#include <json/value.h>
+
+#include <optional>
+#include <string_view>
+
+#include "payload/node.h"
+
+namespace kavrix {
+
+// The nodes of a payload: the only way into one. Plain JSON is scanned; JsonCpp's legacy reader judges all
+// else, and its tree is listed into the same nodes. What a payload decodes to is what JsonCpp makes of it.
+class PayloadNodes {
+ public:
+  PayloadNodes() = default;
+  // Lists a value that a client has parsed; it must outlive the object.
+  explicit PayloadNodes(const Json::Value& value) { List(value); }
+
+  // False when `payload`, which must outlive the object, does not parse or its root is not an object.
+  bool Read(std::string_view payload);
+
+  const NodeList& nodes() const { return nodes_; }
+
+ private:
+  void List(const Json::Value& root);
+  void ListValue(const Json::Value& value, std::uint32_t parent, std::string_view key);
+
+  NodeList nodes_;
+  std::optional<Json::Value> tree_;  // holds the texts of a payload that is not plain
+};
+
+}  // namespace kavrix
+
+#endif  // KAVRIX_PAYLOAD_PAYLOAD_NODES_H_
