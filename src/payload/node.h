@@ -56,8 +56,8 @@ class NodeList {
     node.key_length = static_cast<std::uint32_t>(key.size());
     node.last = 0;
     node.has_escapes = false;
-    node.previous = index == 0 ? 0 : nodes_[parent].last;
-    nodes_[parent].last = index;  // 0 for the root, which is its own parent
+    node.previous = nodes_[parent].last;  // the root is its own parent
+    nodes_[parent].last = index;
     return node;
   }
 

@@ -148,8 +148,8 @@ class PlainScanner {
     const char* const digits = at;
     std::uint64_t magnitude = 0;
     for (; IsDigit(*at); ++at) magnitude = magnitude * 10 + static_cast<unsigned char>(*at - '0');
-    if (at == digits || at - digits > kMostDigits) return nullptr;
-    if (*digits == '0' && at - digits > 1) return nullptr;
+    const std::ptrdiff_t count = at - digits;
+    if (count != 1 && (count == 0 || count > kMostDigits || *digits == '0')) return nullptr;
     if (*at == '.' || IsExponentSign(*at)) return ScanRestOfReal(at, key, begin);
 
     const auto value =
