@@ -1,5 +1,6 @@
 #include <iostream>
 
+#include "descriptors/traffic_draw_descriptor.h"
 #include "map_resource/map_resource_transform.h"
 
 int main() {

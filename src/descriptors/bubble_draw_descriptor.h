@@ -3,7 +3,7 @@
 
 #include <array>
 #include <cstdint>
-#include <ostream>
+#include <iosfwd>
 #include <string>
 #include <type_traits>
 

@@ -1,5 +1,7 @@
 #include "descriptors/marker_type.h"
 
+#include <ostream>
+
 namespace kavrix {
 namespace {
 

@@ -2,7 +2,7 @@
 #define KAVRIX_DESCRIPTORS_MARKER_TYPE_H_
 
 #include <cstdint>
-#include <ostream>
+#include <iosfwd>
 #include <string>
 
 namespace kavrix {

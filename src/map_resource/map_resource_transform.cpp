@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "descriptors/descriptors.h"
 #include "map_resource/bubble_markers.h"
 #include "map_resource/resource_name.h"
 #include "util/tagged_log.h"

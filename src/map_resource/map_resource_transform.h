@@ -1,15 +1,18 @@
 #ifndef KAVRIX_MAP_RESOURCE_MAP_RESOURCE_TRANSFORM_H_
 #define KAVRIX_MAP_RESOURCE_MAP_RESOURCE_TRANSFORM_H_
 
-#include <json/forwards.h>
-
 #include <memory>
 #include <string>
 #include <utility>
 
 #include "config/marker_bubble_config.h"
 #include "context/kavrix_context.h"
-#include "descriptors/descriptors.h"
+#include "descriptors/bubble_draw_descriptor.h"
+
+// JsonCpp's own header of declarations includes the streams.
+namespace Json {
+class Value;
+}
 
 namespace kavrix {
 

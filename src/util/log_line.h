@@ -1,8 +1,8 @@
 #ifndef KAVRIX_UTIL_LOG_LINE_H_
 #define KAVRIX_UTIL_LOG_LINE_H_
 
+#include <iosfwd>
 #include <mutex>
-#include <ostream>
 #include <string>
 
 #include "util/tagged_log.h"

@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "descriptors/descriptors.h"
 #include "map_resource/map_resource_manager.h"
 #include "map_resource/map_resource_transform.h"
 #include "tests/support/print_descriptor.h"
