@@ -1,5 +1,6 @@
 # The headers that a client may include: the entry points and what they include. Paths are relative to src/ and, once
-# installed, to include/kavrix_map_resource/. Every other header is internal.
+# installed, to include/kavrix_map_resource/. Every other header is internal. A public header includes others by a path
+# relative to itself ("../util/log_line.h"), so that it never finds a file of the client's own.
 set(KAVRIX_PUBLIC_HEADERS
     config/bubble_layer_config_container.h
     config/bubble_layer_config_file.h

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <string_view>
 
-#include "config/bubble_style_record.h"
+#include "bubble_style_record.h"
 
 namespace kavrix {
 

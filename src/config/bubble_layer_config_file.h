@@ -5,8 +5,8 @@
 #include <stdexcept>
 #include <string>
 
-#include "config/bubble_layer_config_container.h"
-#include "config/marker_bubble_config.h"
+#include "bubble_layer_config_container.h"
+#include "marker_bubble_config.h"
 
 namespace kavrix {
 

@@ -1,7 +1,7 @@
 #ifndef KAVRIX_CONFIG_MARKER_BUBBLE_CONFIG_H_
 #define KAVRIX_CONFIG_MARKER_BUBBLE_CONFIG_H_
 
-#include "config/bubble_style_record.h"
+#include "bubble_style_record.h"
 
 namespace kavrix {
 

@@ -6,7 +6,7 @@
 #include <mutex>
 #include <string>
 
-#include "config/bubble_layer_config_container.h"
+#include "../config/bubble_layer_config_container.h"
 
 namespace kavrix {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <type_traits>
 
-#include "descriptors/member_visitor.h"
+#include "member_visitor.h"
 
 namespace kavrix {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "descriptors/bubble_draw_descriptor.h"
+#include "bubble_draw_descriptor.h"
 
 namespace kavrix {
 

@@ -1,7 +1,7 @@
 #ifndef KAVRIX_DESCRIPTORS_LIGHT_WAIT_BUBBLE_DRAW_DESCRIPTOR_H_
 #define KAVRIX_DESCRIPTORS_LIGHT_WAIT_BUBBLE_DRAW_DESCRIPTOR_H_
 
-#include "descriptors/bubble_draw_descriptor.h"
+#include "bubble_draw_descriptor.h"
 
 namespace kavrix {
 

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <string>
 
-#include "descriptors/bubble_draw_descriptor.h"
-#include "descriptors/marker_type.h"
+#include "bubble_draw_descriptor.h"
+#include "marker_type.h"
 
 namespace kavrix {
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "descriptors/marker_type.h"
+#include "marker_type.h"
 
 namespace kavrix {
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "descriptors/bubble_draw_descriptor.h"
+#include "bubble_draw_descriptor.h"
 
 namespace kavrix {
 

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "descriptors/bubble_draw_descriptor.h"
+#include "bubble_draw_descriptor.h"
 
 namespace kavrix {
 

@@ -5,9 +5,9 @@
 #include <string>
 #include <utility>
 
-#include "config/marker_bubble_config.h"
-#include "context/kavrix_context.h"
-#include "descriptors/bubble_draw_descriptor.h"
+#include "../config/marker_bubble_config.h"
+#include "../context/kavrix_context.h"
+#include "../descriptors/bubble_draw_descriptor.h"
 
 // JsonCpp's own header of declarations includes the streams.
 namespace Json {

@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "descriptors/descriptors.h"
-#include "map_resource/encode_error.h"
+#include "../descriptors/descriptors.h"
+#include "encode_error.h"
 
 // For the placing side: builds the resource name of a bubble from the descriptor that the name is to decode
 // to. Members that names of the kind do not carry (styles, kind codes) are ignored.

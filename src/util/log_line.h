@@ -5,7 +5,7 @@
 #include <mutex>
 #include <string>
 
-#include "util/tagged_log.h"
+#include "tagged_log.h"
 
 namespace kavrix::logging {
 

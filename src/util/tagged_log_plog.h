@@ -14,7 +14,7 @@
 #include <string>
 #include <type_traits>
 
-#include "util/tagged_log.h"
+#include "tagged_log.h"
 
 namespace kavrix::logging {
 
