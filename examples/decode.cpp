@@ -13,7 +13,7 @@ int main() {
   kavrix::MapResourceTransform transform(context);
   std::shared_ptr<kavrix::BubbleDrawDescriptor> out;
   transform.GetBubbleDrawDescriptor(R"(kavrix://resource/{"content":"Jam","mode":0}.trafficBubble)", out);
-  if (const auto traffic = std::dynamic_pointer_cast<kavrix::TrafficDrawDescriptor>(out)) {
+  if (const auto traffic = kavrix::As<kavrix::TrafficDrawDescriptor>(out)) {
     std::cout << traffic->content << ", style " << traffic->style_name << '\n';
   }
 }

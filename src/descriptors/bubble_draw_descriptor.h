@@ -4,7 +4,9 @@
 #include <array>
 #include <cstdint>
 #include <iosfwd>
+#include <memory>
 #include <string>
+#include <string_view>
 #include <type_traits>
 
 #include "member_visitor.h"
@@ -17,7 +19,7 @@ class BubbleDrawDescriptor {
  public:
   virtual ~BubbleDrawDescriptor() = default;
 
-  // The class name, without the namespace.
+  // The class name, without the namespace: a literal. Every derived class has its own, which As compares.
   virtual const char* TypeName() const { return "BubbleDrawDescriptor"; }
 
   // Visit the 13 members of this class, and those that the derived class adds. Text output, JSON output and
@@ -39,6 +41,34 @@ class BubbleDrawDescriptor {
   bool selected = false;
   bool is_force = false;
 };
+
+// Casts a descriptor to its own type; null when it is of another type:
+//
+//   if (const auto traffic = As<TrafficDrawDescriptor>(out)) Draw(traffic->light_text);
+//
+// Compares type names and so needs no RTTI, neither in the library nor in the client.
+template <class Descriptor>
+const Descriptor* As(const BubbleDrawDescriptor* descriptor) {
+  static_assert(std::is_same_v<decltype(&Descriptor::TypeName), const char* (Descriptor::*)() const>,
+                "an inherited TypeName does not tell the class from its base");
+  static const std::string_view type_name = Descriptor().TypeName();
+  if (descriptor == nullptr || descriptor->TypeName() != type_name) return nullptr;
+  return static_cast<const Descriptor*>(descriptor);
+}
+template <class Descriptor>
+Descriptor* As(BubbleDrawDescriptor* descriptor) {
+  return const_cast<Descriptor*>(As<Descriptor>(static_cast<const BubbleDrawDescriptor*>(descriptor)));
+}
+template <class Descriptor>
+std::shared_ptr<Descriptor> As(const std::shared_ptr<BubbleDrawDescriptor>& descriptor) {
+  return As<Descriptor>(descriptor.get()) == nullptr ? nullptr
+                                                     : std::static_pointer_cast<Descriptor>(descriptor);
+}
+template <class Descriptor>
+std::shared_ptr<const Descriptor> As(const std::shared_ptr<const BubbleDrawDescriptor>& descriptor) {
+  return As<Descriptor>(descriptor.get()) == nullptr ? nullptr
+                                                     : std::static_pointer_cast<const Descriptor>(descriptor);
+}
 
 // Writes only the members of the base class, whatever the object's own type is, on one line:
 //

@@ -26,4 +26,5 @@ run(${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${work}/build -G ${GENERATOR} -DCMAKE_P
     -DCMAKE_CXX_COMPILER=${CXX_COMPILER} -DCMAKE_CXX_FLAGS=${CXX_FLAGS} -DPLOG_INCLUDE_DIR=${PLOG_INCLUDE_DIR})
 run(${CMAKE_COMMAND} --build ${work}/build)
 run(${work}/build/client)
+run(${work}/build/plain)
 run(${work}/prefix/bin/kavrix-resource --version)
