@@ -33,6 +33,7 @@ set(KAVRIX_PUBLIC_HEADERS
     map_resource/map_resource_transform.h
     map_resource/resource_catalogue.h
     map_resource/resource_name_encoder.h
+    util/export.h
     util/json_util.h
     util/log_line.h
     util/string_util.h

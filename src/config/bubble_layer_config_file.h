@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "../util/export.h"
 #include "bubble_layer_config_container.h"
 #include "marker_bubble_config.h"
 
@@ -20,7 +21,7 @@ struct BubbleLayerConfigFile {
 
 // The configuration cannot be used. The message says where, what was expected and what was found; the latter
 // is quoted as it is, control characters included, and cut after 60 characters.
-class ConfigError : public std::runtime_error {
+class KAVRIX_EXPORT ConfigError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
@@ -33,7 +34,7 @@ class ConfigError : public std::runtime_error {
 // text is strict JSON, read alike under every locale. A float value is any number whose nearest float is
 // finite; a word is an integer from 0 to 4294967295 or a string such as "0xffff0000". Throws ConfigError for
 // the first error.
-BubbleLayerConfigFile ParseBubbleLayerConfig(const std::string& json_text);
+KAVRIX_EXPORT BubbleLayerConfigFile ParseBubbleLayerConfig(const std::string& json_text);
 
 }  // namespace kavrix
 

@@ -7,13 +7,14 @@
 #include <string>
 
 #include "../config/bubble_layer_config_container.h"
+#include "../util/export.h"
 
 namespace kavrix {
 
 // One map, as the transform needs it: its name and its bubble-layer configuration. Several threads may use
 // all members at once, and each transform keeps its context alive. A client that keeps its configuration
 // elsewhere overrides GetBubbleLayerConfigInLock.
-class KavrixContext {
+class KAVRIX_EXPORT KavrixContext {
  public:
   explicit KavrixContext(std::string context_name);
   KavrixContext(const KavrixContext&) = delete;

@@ -9,13 +9,14 @@
 #include <string_view>
 #include <type_traits>
 
+#include "../util/export.h"
 #include "member_visitor.h"
 
 namespace kavrix {
 
 // Everything needed to draw one bubble, handed around as a shared pointer. Whatever neither the resource name
 // nor the style set is zero, false or empty. Most kinds derive a class of their own.
-class BubbleDrawDescriptor {
+class KAVRIX_EXPORT BubbleDrawDescriptor {
  public:
   virtual ~BubbleDrawDescriptor() = default;
 
@@ -77,10 +78,10 @@ std::shared_ptr<const Descriptor> As(const std::shared_ptr<const BubbleDrawDescr
 // Strings are escaped as util/log_line.h lists, and their quotes too: none can end the line or look like
 // another member. Of the stream's state only the notation and the precision of floats count, and none of it
 // changes. Throws std::bad_alloc, with nothing written, when memory runs out.
-std::ostream& operator<<(std::ostream& stream, const BubbleDrawDescriptor& descriptor);
+KAVRIX_EXPORT std::ostream& operator<<(std::ostream& stream, const BubbleDrawDescriptor& descriptor);
 
 // Writes all members of the object in the same form.
-std::ostream& WriteAllMembers(std::ostream& stream, const BubbleDrawDescriptor& descriptor);
+KAVRIX_EXPORT std::ostream& WriteAllMembers(std::ostream& stream, const BubbleDrawDescriptor& descriptor);
 
 template <class Descriptor, std::enable_if_t<std::is_base_of_v<BubbleDrawDescriptor, Descriptor> &&
                                                  !std::is_same_v<BubbleDrawDescriptor, Descriptor>,
@@ -90,8 +91,8 @@ std::ostream& operator<<(std::ostream& stream, const Descriptor& descriptor) {
 }
 
 // True when both have the same type and all members are equal.
-bool operator==(const BubbleDrawDescriptor& a, const BubbleDrawDescriptor& b);
-bool operator!=(const BubbleDrawDescriptor& a, const BubbleDrawDescriptor& b);
+KAVRIX_EXPORT bool operator==(const BubbleDrawDescriptor& a, const BubbleDrawDescriptor& b);
+KAVRIX_EXPORT bool operator!=(const BubbleDrawDescriptor& a, const BubbleDrawDescriptor& b);
 
 }  // namespace kavrix
 

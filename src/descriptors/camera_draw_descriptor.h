@@ -6,12 +6,13 @@
 #include <string>
 #include <vector>
 
+#include "../util/export.h"
 #include "bubble_draw_descriptor.h"
 
 namespace kavrix {
 
 // One or more road cameras at one place.
-class CameraDrawDescriptor : public BubbleDrawDescriptor {
+class KAVRIX_EXPORT CameraDrawDescriptor : public BubbleDrawDescriptor {
  public:
   struct Camera {
     std::int32_t type = 0;

@@ -4,12 +4,13 @@
 #include <cstdint>
 #include <string>
 
+#include "../util/export.h"
 #include "bubble_draw_descriptor.h"
 
 namespace kavrix {
 
 // The comparison of a companion route with the main one.
-class CompanionBubbleDrawDescriptor : public BubbleDrawDescriptor {
+class KAVRIX_EXPORT CompanionBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override { return "CompanionBubbleDrawDescriptor"; }
   void VisitOwnMembers(MemberVisitor& visitor) const override {

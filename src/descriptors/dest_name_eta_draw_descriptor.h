@@ -4,12 +4,13 @@
 #include <cstdint>
 #include <string>
 
+#include "../util/export.h"
 #include "bubble_draw_descriptor.h"
 
 namespace kavrix {
 
 // The destination's name and a second line, such as the time of arrival, at the end of a route.
-class DestNameEtaDrawDescriptor : public BubbleDrawDescriptor {
+class KAVRIX_EXPORT DestNameEtaDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override { return "DestNameEtaDrawDescriptor"; }
   void VisitOwnMembers(MemberVisitor& visitor) const override {

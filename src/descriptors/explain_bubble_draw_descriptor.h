@@ -5,12 +5,13 @@
 #include <string>
 #include <vector>
 
+#include "../util/export.h"
 #include "bubble_draw_descriptor.h"
 
 namespace kavrix {
 
 // The explanation of a route: a main line, secondary lines, an icon.
-class ExplainBubbleDrawDescriptor : public BubbleDrawDescriptor {
+class KAVRIX_EXPORT ExplainBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override { return "ExplainBubbleDrawDescriptor"; }
   void VisitOwnMembers(MemberVisitor& visitor) const override {

@@ -4,12 +4,13 @@
 #include <cstdint>
 #include <string>
 
+#include "../util/export.h"
 #include "bubble_draw_descriptor.h"
 
 namespace kavrix {
 
 // The advice of HD guidance to change lanes.
-class HDLaneChangeBubbleDrawDescriptor : public BubbleDrawDescriptor {
+class KAVRIX_EXPORT HDLaneChangeBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override { return "HDLaneChangeBubbleDrawDescriptor"; }
   void VisitOwnMembers(MemberVisitor& visitor) const override {

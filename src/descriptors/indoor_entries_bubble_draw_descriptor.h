@@ -4,12 +4,13 @@
 #include <cstdint>
 #include <string>
 
+#include "../util/export.h"
 #include "bubble_draw_descriptor.h"
 
 namespace kavrix {
 
 // The label of the entries of an indoor place.
-class IndoorEntriesBubbleDrawDescriptor : public BubbleDrawDescriptor {
+class KAVRIX_EXPORT IndoorEntriesBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override { return "IndoorEntriesBubbleDrawDescriptor"; }
   void VisitOwnMembers(MemberVisitor& visitor) const override {

@@ -4,12 +4,13 @@
 #include <cstdint>
 #include <string>
 
+#include "../util/export.h"
 #include "bubble_draw_descriptor.h"
 
 namespace kavrix {
 
 // The countdown of one traffic light.
-class LightCountdownTimerDrawDescriptor : public BubbleDrawDescriptor {
+class KAVRIX_EXPORT LightCountdownTimerDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override { return "LightCountdownTimerDrawDescriptor"; }
   void VisitOwnMembers(MemberVisitor& visitor) const override {

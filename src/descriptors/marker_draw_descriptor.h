@@ -4,13 +4,14 @@
 #include <cstdint>
 #include <string>
 
+#include "../util/export.h"
 #include "bubble_draw_descriptor.h"
 #include "marker_type.h"
 
 namespace kavrix {
 
 // A map marker. The base's `content` is its image key.
-class MarkerDrawDescriptor : public BubbleDrawDescriptor {
+class KAVRIX_EXPORT MarkerDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override { return "MarkerDrawDescriptor"; }
   void VisitOwnMembers(MemberVisitor& visitor) const override {

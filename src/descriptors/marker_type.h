@@ -5,6 +5,8 @@
 #include <iosfwd>
 #include <string>
 
+#include "../util/export.h"
+
 namespace kavrix {
 
 // The kinds of marker on a navigation map. Resource names carry the values, and image keys the names in lower
@@ -28,8 +30,8 @@ enum class MarkerType : std::int32_t {
 };
 
 // Returns the name, such as "Poi", or for any other value its number.
-std::string MarkerTypeName(MarkerType type);
-std::ostream& operator<<(std::ostream& stream, const MarkerType& type);
+KAVRIX_EXPORT std::string MarkerTypeName(MarkerType type);
+KAVRIX_EXPORT std::ostream& operator<<(std::ostream& stream, const MarkerType& type);
 
 }  // namespace kavrix
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "../util/export.h"
 #include "marker_type.h"
 
 namespace kavrix {
@@ -11,7 +12,7 @@ namespace kavrix {
 // Receives the members of a descriptor in declaration order. An item of a list is a value with an empty name,
 // or an object with named members. Style words (colours, or bits that only the drawing side understands) and
 // marker types arrive as integers unless the visitor overrides Word and Code.
-class MemberVisitor {
+class KAVRIX_EXPORT MemberVisitor {
  public:
   virtual ~MemberVisitor() = default;
   virtual void Integer(const char* name, std::int64_t value) = 0;

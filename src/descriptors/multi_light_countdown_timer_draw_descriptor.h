@@ -5,12 +5,13 @@
 #include <string>
 #include <vector>
 
+#include "../util/export.h"
 #include "bubble_draw_descriptor.h"
 
 namespace kavrix {
 
 // The countdowns of several traffic lights at once.
-class MultiLightCountdownTimerDrawDescriptor : public BubbleDrawDescriptor {
+class KAVRIX_EXPORT MultiLightCountdownTimerDrawDescriptor : public BubbleDrawDescriptor {
  public:
   struct OneLightCountdownTimerDrawDescriptor {
     static constexpr std::int32_t kNoTurnArrow = -1;  // the value of a light without the key

@@ -4,12 +4,13 @@
 #include <cstdint>
 #include <string>
 
+#include "../util/export.h"
 #include "bubble_draw_descriptor.h"
 
 namespace kavrix {
 
 // An accident on the route.
-class RouteAccidentBubbleDrawDescriptor : public BubbleDrawDescriptor {
+class KAVRIX_EXPORT RouteAccidentBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override { return "RouteAccidentBubbleDrawDescriptor"; }
   void VisitOwnMembers(MemberVisitor& visitor) const override {

@@ -4,12 +4,13 @@
 #include <cstdint>
 #include <string>
 
+#include "../util/export.h"
 #include "bubble_draw_descriptor.h"
 
 namespace kavrix {
 
 // A safety warning ahead, such as a school or a sharp bend.
-class SafeWarningBubbleDrawDescriptor : public BubbleDrawDescriptor {
+class KAVRIX_EXPORT SafeWarningBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override { return "SafeWarningBubbleDrawDescriptor"; }
   void VisitOwnMembers(MemberVisitor& visitor) const override {

@@ -4,12 +4,13 @@
 #include <cstdint>
 #include <string>
 
+#include "../util/export.h"
 #include "bubble_draw_descriptor.h"
 
 namespace kavrix {
 
 // The label on a route that shows the traffic ahead.
-class TrafficDrawDescriptor : public BubbleDrawDescriptor {
+class KAVRIX_EXPORT TrafficDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override { return "TrafficDrawDescriptor"; }
   void VisitOwnMembers(MemberVisitor& visitor) const override {

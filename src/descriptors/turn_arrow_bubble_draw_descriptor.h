@@ -3,12 +3,13 @@
 
 #include <cstdint>
 
+#include "../util/export.h"
 #include "bubble_draw_descriptor.h"
 
 namespace kavrix {
 
 // The next manoeuvre along the route.
-class TurnArrowBubbleDrawDescriptor : public BubbleDrawDescriptor {
+class KAVRIX_EXPORT TurnArrowBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override { return "TurnArrowBubbleDrawDescriptor"; }
   void VisitOwnMembers(MemberVisitor& visitor) const override { visitor.Integer("distance", distance); }

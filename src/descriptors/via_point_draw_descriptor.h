@@ -4,12 +4,13 @@
 #include <cstdint>
 #include <string>
 
+#include "../util/export.h"
 #include "bubble_draw_descriptor.h"
 
 namespace kavrix {
 
 // The numbered circle at an intermediate stop of a route.
-class ViaPointDrawDescriptor : public BubbleDrawDescriptor {
+class KAVRIX_EXPORT ViaPointDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override { return "ViaPointDrawDescriptor"; }
   void VisitOwnMembers(MemberVisitor& visitor) const override {

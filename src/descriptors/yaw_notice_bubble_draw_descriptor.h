@@ -4,12 +4,13 @@
 #include <cstdint>
 #include <string>
 
+#include "../util/export.h"
 #include "bubble_draw_descriptor.h"
 
 namespace kavrix {
 
 // The notice that the car has left its route.
-class YawNoticeBubbleDrawDescriptor : public BubbleDrawDescriptor {
+class KAVRIX_EXPORT YawNoticeBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override { return "YawNoticeBubbleDrawDescriptor"; }
   void VisitOwnMembers(MemberVisitor& visitor) const override { visitor.Integer("reason", reason); }

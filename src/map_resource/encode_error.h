@@ -6,6 +6,8 @@
 #include <stdexcept>
 #include <string>
 
+#include "../util/export.h"
+
 namespace kavrix {
 
 // A character that a name cannot carry in one of its strings.
@@ -17,7 +19,7 @@ struct BadCharacter {
 
 // A value that no name of the kind can carry. The message names the kind, the field and, if one character is
 // to blame, that character and its place. Most say what the reader would have decoded instead.
-class EncodeError : public std::runtime_error {
+class KAVRIX_EXPORT EncodeError : public std::runtime_error {
  public:
   EncodeError(const std::string& kind, const std::string& field, const std::string& problem,
               std::optional<BadCharacter> character = {});

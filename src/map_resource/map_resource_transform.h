@@ -8,6 +8,7 @@
 #include "../config/marker_bubble_config.h"
 #include "../context/kavrix_context.h"
 #include "../descriptors/bubble_draw_descriptor.h"
+#include "../util/export.h"
 
 // JsonCpp's own header of declarations includes the streams.
 namespace Json {
@@ -23,7 +24,7 @@ namespace kavrix {
 // call runs on it; a sink or a context that a call uses must not destroy it. After a fork() the child must
 // not call this library before exec if other threads of the parent use it: a lock that one of them held stays
 // locked in the child. After a fork() of a process with one thread, parent and child may both go on.
-class MapResourceTransform {
+class KAVRIX_EXPORT MapResourceTransform {
  public:
   // `context` must not be null. The transform shares its ownership.
   explicit MapResourceTransform(std::shared_ptr<KavrixContext> context);

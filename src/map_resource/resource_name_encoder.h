@@ -4,6 +4,7 @@
 #include <string>
 
 #include "../descriptors/descriptors.h"
+#include "../util/export.h"
 #include "encode_error.h"
 
 // For the placing side: builds the resource name of a bubble from the descriptor that the name is to decode
@@ -20,32 +21,35 @@ namespace kavrix {
 
 // `nav_mode` selects the style record together with the scene; the descriptor does not hold it. Modes that
 // select the same record give the same name.
-std::string EncodeTrafficBubbleResourceName(const TrafficDrawDescriptor& traffic,
-                                            int nav_mode = TrafficDrawDescriptor::kDefaultNavMode);
-std::string EncodeRouteNameBubbleResourceName(const BubbleDrawDescriptor& bubble);
-std::string EncodeIndoorEntriesBubbleResourceName(const IndoorEntriesBubbleDrawDescriptor& entries);
-std::string EncodeCompanionBubbleResourceName(const CompanionBubbleDrawDescriptor& companion);
-std::string EncodeCameraBubbleResourceName(const CameraDrawDescriptor& camera);
-std::string EncodeEtaBubbleResourceName(const DestNameEtaDrawDescriptor& eta);
-std::string EncodeRouteLabelBubbleResourceName(const BubbleDrawDescriptor& label);
-std::string EncodeRouteExplainBubbleResourceName(const ExplainBubbleDrawDescriptor& explain);
-std::string EncodeMarkerBubbleResourceName(const BubbleDrawDescriptor& bubble);
-std::string EncodeLightCountdownBubbleResourceName(const LightCountdownTimerDrawDescriptor& light);
-std::string EncodeMultiLightCountdownBubbleResourceName(const MultiLightCountdownTimerDrawDescriptor& lights);
-std::string EncodeViaCircleBubbleResourceName(const ViaPointDrawDescriptor& via);
-std::string EncodeLightWaitBubbleResourceName(const LightWaitBubbleDrawDescriptor& bubble);
-std::string EncodeTurnBubbleResourceName(const TurnArrowBubbleDrawDescriptor& turn);
-std::string EncodeHdLongSolidBubbleResourceName(const HDLongSolidBubbleDrawDescriptor& bubble);
-std::string EncodeUndergroundParkBubbleResourceName(const BubbleDrawDescriptor& bubble);
-std::string EncodeForceDotBubbleResourceName(const BubbleDrawDescriptor& bubble);
-std::string EncodeForcePollBubbleResourceName(const BubbleDrawDescriptor& bubble);
-std::string EncodeYawNoticeResourceName(const YawNoticeBubbleDrawDescriptor& notice);
-std::string EncodeRouteAccidentResourceName(const RouteAccidentBubbleDrawDescriptor& accident);
-std::string EncodeSafeWarningResourceName(const SafeWarningBubbleDrawDescriptor& warning);
-std::string EncodeLaneChangeResourceName(const HDLaneChangeBubbleDrawDescriptor& change);
+KAVRIX_EXPORT std::string EncodeTrafficBubbleResourceName(
+    const TrafficDrawDescriptor& traffic, int nav_mode = TrafficDrawDescriptor::kDefaultNavMode);
+KAVRIX_EXPORT std::string EncodeRouteNameBubbleResourceName(const BubbleDrawDescriptor& bubble);
+KAVRIX_EXPORT std::string EncodeIndoorEntriesBubbleResourceName(
+    const IndoorEntriesBubbleDrawDescriptor& entries);
+KAVRIX_EXPORT std::string EncodeCompanionBubbleResourceName(const CompanionBubbleDrawDescriptor& companion);
+KAVRIX_EXPORT std::string EncodeCameraBubbleResourceName(const CameraDrawDescriptor& camera);
+KAVRIX_EXPORT std::string EncodeEtaBubbleResourceName(const DestNameEtaDrawDescriptor& eta);
+KAVRIX_EXPORT std::string EncodeRouteLabelBubbleResourceName(const BubbleDrawDescriptor& label);
+KAVRIX_EXPORT std::string EncodeRouteExplainBubbleResourceName(const ExplainBubbleDrawDescriptor& explain);
+KAVRIX_EXPORT std::string EncodeMarkerBubbleResourceName(const BubbleDrawDescriptor& bubble);
+KAVRIX_EXPORT std::string EncodeLightCountdownBubbleResourceName(
+    const LightCountdownTimerDrawDescriptor& light);
+KAVRIX_EXPORT std::string EncodeMultiLightCountdownBubbleResourceName(
+    const MultiLightCountdownTimerDrawDescriptor& lights);
+KAVRIX_EXPORT std::string EncodeViaCircleBubbleResourceName(const ViaPointDrawDescriptor& via);
+KAVRIX_EXPORT std::string EncodeLightWaitBubbleResourceName(const LightWaitBubbleDrawDescriptor& bubble);
+KAVRIX_EXPORT std::string EncodeTurnBubbleResourceName(const TurnArrowBubbleDrawDescriptor& turn);
+KAVRIX_EXPORT std::string EncodeHdLongSolidBubbleResourceName(const HDLongSolidBubbleDrawDescriptor& bubble);
+KAVRIX_EXPORT std::string EncodeUndergroundParkBubbleResourceName(const BubbleDrawDescriptor& bubble);
+KAVRIX_EXPORT std::string EncodeForceDotBubbleResourceName(const BubbleDrawDescriptor& bubble);
+KAVRIX_EXPORT std::string EncodeForcePollBubbleResourceName(const BubbleDrawDescriptor& bubble);
+KAVRIX_EXPORT std::string EncodeYawNoticeResourceName(const YawNoticeBubbleDrawDescriptor& notice);
+KAVRIX_EXPORT std::string EncodeRouteAccidentResourceName(const RouteAccidentBubbleDrawDescriptor& accident);
+KAVRIX_EXPORT std::string EncodeSafeWarningResourceName(const SafeWarningBubbleDrawDescriptor& warning);
+KAVRIX_EXPORT std::string EncodeLaneChangeResourceName(const HDLaneChangeBubbleDrawDescriptor& change);
 
 // A marker name, for the second entry point. Ignores the image key, which is made of other members.
-std::string EncodeMarkerResourceName(const MarkerDrawDescriptor& marker);
+KAVRIX_EXPORT std::string EncodeMarkerResourceName(const MarkerDrawDescriptor& marker);
 
 }  // namespace kavrix
 

@@ -5,6 +5,7 @@
 #include <mutex>
 #include <string>
 
+#include "export.h"
 #include "tagged_log.h"
 
 namespace kavrix::logging {
@@ -21,12 +22,12 @@ namespace kavrix::logging {
 //   \n \r \t            newline, carriage return, tab
 //   \u001b \u0085 ...   any other control character, line separators, and what turns the direction of writing
 //   \xff ...            a byte that is not UTF-8; in the four fields before the message also the blank, \x20
-std::string FormatLogLine(const LogRecord& record);
+KAVRIX_EXPORT std::string FormatLogLine(const LogRecord& record);
 
 // A sink that writes the lines to a stream, each in one piece under its own lock. The stream must outlive the
 // sink, which log records begun before its removal keep alive: see SetLoggerInstance. Set std::unitbuf on the
 // stream to flush every line.
-class StreamSink : public LogSink {
+class KAVRIX_EXPORT StreamSink : public LogSink {
  public:
   explicit StreamSink(std::ostream& stream) : stream_(stream) {}
 

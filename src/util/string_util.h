@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "export.h"
+
 namespace kavrix {
 
 enum class WhitespaceHandling { kKeep = 0, kTrim = 1 };
@@ -12,15 +14,15 @@ enum class SplitResult { kAll = 0, kNonEmpty = 1 };
 // Cuts `input` at every character that is one of `separators`. kKeep and kAll keep blanks and empty fields:
 // "a_b_" on "_" gives "a", "b" and "". An empty input gives one empty field. kTrim drops ASCII blanks at both
 // ends of a field; kNonEmpty leaves out fields that are empty (after trimming).
-std::vector<std::string> SplitString(const std::string& input, const std::string& separators,
-                                     WhitespaceHandling whitespace, SplitResult result);
+KAVRIX_EXPORT std::vector<std::string> SplitString(const std::string& input, const std::string& separators,
+                                                   WhitespaceHandling whitespace, SplitResult result);
 
 // True when the whole of `text` is a decimal integer that fits a signed 32-bit int, with an optional leading
 // '+' or '-' and no blanks; stores it in `value`. On false `value` is unchanged.
-bool StringToInt(const std::string& text, int* value);
+KAVRIX_EXPORT bool StringToInt(const std::string& text, int* value);
 
 // Returns a copy with A to Z replaced by a to z; every other byte, also of UTF-8 sequences, is unchanged.
-std::string ToLowerASCII(const std::string& text);
+KAVRIX_EXPORT std::string ToLowerASCII(const std::string& text);
 
 }  // namespace kavrix
 

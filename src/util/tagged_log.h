@@ -11,6 +11,8 @@
 #include <streambuf>
 #include <string>
 
+#include "export.h"
+
 // Log records with a tag, filtered by level and tag before any part of the message is evaluated. A sink
 // receives the finished log records; util/tagged_log_plog.h makes a sink of any plog appender or logger,
 // util/log_line.h of any stream.
@@ -31,7 +33,7 @@ struct LogRecord {
   const std::string& message;
 };
 
-class LogSink {
+class KAVRIX_EXPORT LogSink {
  public:
   virtual ~LogSink() = default;
   // Called on the decoding thread with no lock held, possibly by several threads at once: the sink locks
@@ -48,16 +50,16 @@ struct LoggerInstance {
 
 // The id of the instance that log records go to, for the whole process. 0 at first; clients may set it at any
 // time.
-extern std::atomic<std::uint32_t> kavrix_log_instance_id_;
+KAVRIX_EXPORT extern std::atomic<std::uint32_t> kavrix_log_instance_id_;
 
 // Installs, replaces or, with a null sink, removes an instance. Removing does not throw. Records begun before
 // still reach their old sink, also after this returned; the sink and the filter are destroyed after the last
 // of them, perhaps on the thread that wrote it, with no lock held. An instance that is still installed when
 // the process ends is never destroyed, so that static destructors may log: remove a sink that flushes in its
 // destructor.
-void SetLoggerInstance(std::uint32_t instance_id, LoggerInstance instance);
+KAVRIX_EXPORT void SetLoggerInstance(std::uint32_t instance_id, LoggerInstance instance);
 
-class Logger {
+class KAVRIX_EXPORT Logger {
  public:
   // True when that instance takes log records of this level and tag. A filter that throws counts as false.
   static bool TestLogLevelAndTag(std::uint32_t instance_id, LogLevel level, const std::string& tag) noexcept;
@@ -66,7 +68,7 @@ class Logger {
 // The text of a message and the stream that writes it. A plain stream swallows what its buffer throws and is
 // silent from then on. This one lets exceptions such as std::bad_alloc through and keeps what was written
 // before.
-class MessageBuffer : private std::streambuf {
+class KAVRIX_EXPORT MessageBuffer : private std::streambuf {
  public:
   MessageBuffer();
   std::ostream& Stream() { return stream_; }
@@ -85,7 +87,7 @@ class MessageBuffer : private std::streambuf {
 // A log record being written. Its destructor hands it to the instance's sink. An exception in the message,
 // such as std::bad_alloc, leaves the log statement; the sink then gets what was written until there. The
 // destructor itself needs no memory and never throws.
-class Record {
+class KAVRIX_EXPORT Record {
  public:
   // `tag` must outlive the object.
   Record(LogLevel level, const char* function, unsigned long line, const char* file,
