@@ -1,14 +1,8 @@
-# Installs the build in BUILD_DIR to an empty folder, checks the headers there, then configures, builds and runs the
-# client project in SOURCE_DIR against it.
+# Installs the build in BUILD_DIR to an empty folder, checks the headers there, then configures, builds and runs clients:
+# the project in SOURCE_DIR and those in ../jsoncpp.
+include(${SOURCE_DIR}/../run.cmake)
 set(work ${BUILD_DIR}/package_test)
 file(REMOVE_RECURSE ${work})
-
-function(run)
-  execute_process(COMMAND ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
-  if(NOT status EQUAL 0)
-    message(FATAL_ERROR "${ARGN} failed (${status}):\n${output}")
-  endif()
-endfunction()
 
 run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${work}/prefix)
 
@@ -22,9 +16,13 @@ if(NOT installed STREQUAL KAVRIX_PUBLIC_HEADERS)
   message(FATAL_ERROR "the installed headers are\n${installed}\nand not the public ones\n${KAVRIX_PUBLIC_HEADERS}")
 endif()
 
-run(${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${work}/build -G ${GENERATOR} -DCMAKE_PREFIX_PATH=${work}/prefix
-    -DCMAKE_CXX_COMPILER=${CXX_COMPILER} -DCMAKE_CXX_FLAGS=${CXX_FLAGS} -DPLOG_INCLUDE_DIR=${PLOG_INCLUDE_DIR})
+set(options -G ${GENERATOR} -DCMAKE_PREFIX_PATH=${work}/prefix -DCMAKE_CXX_COMPILER=${CXX_COMPILER}
+            -DCMAKE_CXX_FLAGS=${CXX_FLAGS})
+run(${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${work}/build ${options} -DPLOG_INCLUDE_DIR=${PLOG_INCLUDE_DIR})
 run(${CMAKE_COMMAND} --build ${work}/build)
 run(${work}/build/client)
 run(${work}/build/plain)
 run(${work}/prefix/bin/kavrix-resource --version)
+
+run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/../jsoncpp -B ${work}/jsoncpp ${options})
+run(${CMAKE_COMMAND} --build ${work}/jsoncpp)
