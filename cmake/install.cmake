@@ -1,7 +1,10 @@
 include(CMakePackageConfigHelpers)
+include(GNUInstallDirs)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/kavrix_map_resource)
 
+target_include_directories(kavrix_map_resource
+                           PUBLIC $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/kavrix_map_resource>)
 install(TARGETS kavrix_map_resource EXPORT kavrix_map_resource_targets)
 include(cmake/public_headers.cmake)
 foreach(header IN LISTS KAVRIX_PUBLIC_HEADERS)
