@@ -3,6 +3,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <memory>
 #include <mutex>
 #include <string>
 
@@ -34,7 +35,7 @@ class KAVRIX_EXPORT KavrixContext {
 
  private:
   mutable std::mutex mutex_;
-  BubbleLayerConfigContainer config_;  // guarded by mutex_
+  std::unique_ptr<BubbleLayerConfigContainer> config_;  // guarded by mutex_
 };
 
 }  // namespace kavrix

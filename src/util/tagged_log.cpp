@@ -1,6 +1,7 @@
 #include "util/tagged_log.h"
 
 #include <cstddef>
+#include <iomanip>
 #include <locale>
 #include <map>
 #include <mutex>
@@ -109,6 +110,11 @@ Record::Record(LogLevel level, const char* function, unsigned long line, const c
       instance_(Instances().Find(instance_id)) {
   // Most programs never change the global locale, and setting one costs a third of making the stream.
   if (Stream().getloc() != std::locale::classic()) Stream().imbue(std::locale::classic());
+}
+
+std::ostream& Record::Begin(const std::string& context_name) {
+  constexpr int kDecimals = 6;
+  return Stream() << "[Kavrix][" << context_name << "]" << std::fixed << std::setprecision(kDecimals);
 }
 
 Record::~Record() {

@@ -4,7 +4,6 @@
 #include <atomic>
 #include <cstdint>
 #include <functional>
-#include <iomanip>
 #include <ios>
 #include <memory>
 #include <ostream>
@@ -99,6 +98,9 @@ class KAVRIX_EXPORT Record {
   // Numbers print as in the classic locale, whatever the global one is.
   std::ostream& Stream() { return message_.Stream(); }
 
+  // Writes the head of the message, "[Kavrix][context name]". Floats after it have six decimals.
+  std::ostream& Begin(const std::string& context_name);
+
  private:
   const LogLevel level_;
   const char* const function_;
@@ -130,15 +132,14 @@ constexpr const char* BaseName(const char* path) {
 #define KAVRIX_LOG_IN(function, tag, level, insertions)                                                   \
   do {                                                                                                    \
     namespace kavrix_logging = ::kavrix::logging;                                                         \
+    const std::string kavrix_tag(&#tag[6]);                                                               \
     if (kavrix_logging::Logger::TestLogLevelAndTag(kavrix_logging::kavrix_log_instance_id_.load(), level, \
-                                                   std::string(&#tag[6]))) {                              \
+                                                   kavrix_tag)) {                                         \
       constexpr const char* kavrix_file = kavrix_logging::BaseName(__FILE__);                             \
       const std::uint32_t kavrix_instance_id = kavrix_logging::kavrix_log_instance_id_.load();            \
-      const std::string kavrix_tag(&#tag[6]);                                                             \
       kavrix_logging::Record kavrix_record(level, function, __LINE__, kavrix_file, kavrix_instance_id,    \
                                            kavrix_tag);                                                   \
-      kavrix_record.Stream() << "[Kavrix][" << context_->context_name << "]" << std::fixed                \
-                             << std::setprecision(6) << insertions;                                       \
+      kavrix_record.Begin(context_->context_name) << insertions;                                          \
     }                                                                                                     \
   } while (false)
 // NOLINTEND(bugprone-macro-parentheses)

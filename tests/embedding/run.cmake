@@ -1,4 +1,4 @@
-# Configures the parent project in SOURCE_DIR in both ways, and builds and installs it.
+# Configures the parent project in SOURCE_DIR in both ways, builds and installs it, and measures its client.
 include(${SOURCE_DIR}/../run.cmake)
 set(work ${BUILD_DIR}/embedding_test)
 file(REMOVE_RECURSE ${work})
@@ -22,4 +22,22 @@ file(
   ${work}/prefix/*)
 if(NOT installed STREQUAL "bin/decode")
   message(SEND_ERROR "the parent's install tree also holds the library's: ${installed}")
+endif()
+
+# The size of a stripped client that only decodes, linked with the static library and --gc-sections. It says what a decode
+# pulls in: a tenth more or less needs a reason, and a new figure here and in the README.
+set(size_GNU_12 191300)
+set(size_Clang_14 154600)
+set(most 200000)
+file(SIZE ${work}/prefix/bin/decode size)
+string(REGEX REPLACE "[.].*" "" compiler "${COMPILER}")
+message("size of the client: ${size} bytes with ${compiler}")
+if(NOT DEFINED size_${compiler} OR NOT PROCESSOR STREQUAL "x86_64")
+  message("not compared: there is no figure for ${compiler} on ${PROCESSOR}")
+  return()
+endif()
+math(EXPR difference "(${size} - ${size_${compiler}}) * 100")
+math(EXPR bound "${size_${compiler}} * 10")
+if(difference GREATER bound OR difference LESS -${bound} OR size GREATER most)
+  message(SEND_ERROR "expected ${size_${compiler}} bytes within 10 %, and at most ${most}")
 endif()
