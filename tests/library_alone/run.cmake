@@ -1,0 +1,31 @@
+# Configures the repository in SOURCE_DIR as on a machine that has only JsonCpp.
+cmake_minimum_required(VERSION 3.22)
+set(work ${BUILD_DIR}/library_alone_test)
+file(REMOVE_RECURSE ${work})
+set(without "")
+foreach(package CLI11 fmt Threads GTest nlohmann_json plog benchmark)
+  list(APPEND without -DCMAKE_DISABLE_FIND_PACKAGE_${package}=ON)
+endforeach()
+
+# expect(STATUS TEXT [option...]) configures with the options; STATUS is SUCCEEDS or FAILS, TEXT is part of the output.
+function(expect status text)
+  execute_process(COMMAND ${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${work} ${without} ${ARGN} RESULT_VARIABLE result
+                  OUTPUT_VARIABLE output ERROR_VARIABLE output)
+  string(REGEX REPLACE "[ \n]+" " " output "${output}")
+  string(FIND "${output}" "${text}" found)
+  if((status STREQUAL "SUCCEEDS" AND result) OR (status STREQUAL "FAILS" AND NOT result) OR found EQUAL -1)
+    message(SEND_ERROR "${ARGN}: expected that it ${status} and says \"${text}\", found (${result}) ${output}")
+  endif()
+  if(output MATCHES "kavrix-resource" AND NOT text MATCHES "kavrix-resource")
+    message(SEND_ERROR "${ARGN}: asks for the tool: ${output}")
+  endif()
+  file(REMOVE_RECURSE ${work})
+endfunction()
+
+set(needs "the tool kavrix-resource needs CLI11, fmt (Debian: libcli11-dev libfmt-dev)")
+expect(SUCCEEDS "Found KavrixJsonCpp" --preset library)
+expect(SUCCEEDS "${needs}; it is left out" --preset release)
+expect(FAILS "${needs}" --preset release -DKAVRIX_BUILD_TOOL=ON)
+expect(FAILS "${needs}" --preset dev)
+expect(FAILS "JsonCpp was not found (Debian: libjsoncpp-dev)" --preset library -DCMAKE_DISABLE_FIND_PACKAGE_jsoncpp=ON
+       -DCMAKE_DISABLE_FIND_PACKAGE_PkgConfig=ON)
