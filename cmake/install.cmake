@@ -23,3 +23,15 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/kavrix_map_resource-confi
 install(FILES ${PROJECT_BINARY_DIR}/kavrix_map_resource-config.cmake
               ${PROJECT_BINARY_DIR}/kavrix_map_resource-config-version.cmake cmake/FindKavrixJsonCpp.cmake
         DESTINATION ${package_dir})
+
+# Finds its prefix from its own place, so that the installed tree can move.
+set(pc_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+file(RELATIVE_PATH prefix_from_pc /prefix/${pc_dir} /prefix)
+get_target_property(definitions kavrix_map_resource INTERFACE_COMPILE_DEFINITIONS)
+set(pc_definitions "")
+if(definitions)
+  list(JOIN definitions " -D" definitions)
+  set(pc_definitions " -D${definitions}")
+endif()
+configure_file(cmake/kavrix_map_resource.pc.in kavrix_map_resource.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/kavrix_map_resource.pc DESTINATION ${pc_dir})

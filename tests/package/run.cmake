@@ -1,5 +1,5 @@
 # Installs the build in BUILD_DIR to an empty folder, checks the headers there, then configures, builds and runs clients:
-# the project in SOURCE_DIR and those in ../jsoncpp.
+# the project in SOURCE_DIR, one that has only pkg-config, and those in ../jsoncpp.
 include(${SOURCE_DIR}/../run.cmake)
 set(work ${BUILD_DIR}/package_test)
 file(REMOVE_RECURSE ${work})
@@ -23,6 +23,16 @@ run(${CMAKE_COMMAND} --build ${work}/build)
 run(${work}/build/client)
 run(${work}/build/plain)
 run(${work}/prefix/bin/kavrix-resource --version)
+
+# A client of pkg-config alone.
+file(GLOB_RECURSE pc ${work}/prefix/*.pc)
+get_filename_component(pc_dir ${pc} DIRECTORY)
+get_filename_component(lib_dir ${pc_dir} DIRECTORY)
+set(ENV{PKG_CONFIG_PATH} ${pc_dir}:$ENV{PKG_CONFIG_PATH})
+execute_process(COMMAND pkg-config --cflags --libs kavrix_map_resource OUTPUT_VARIABLE flags COMMAND_ERROR_IS_FATAL ANY)
+separate_arguments(flags UNIX_COMMAND "${CXX_FLAGS} ${flags}")
+run(${CXX_COMPILER} -std=c++17 ${SOURCE_DIR}/main.cpp -o ${work}/pkg_config_client ${flags} -Wl,-rpath,${lib_dir})
+run(${work}/pkg_config_client)
 
 run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/../jsoncpp -B ${work}/jsoncpp ${options})
 run(${CMAKE_COMMAND} --build ${work}/jsoncpp)
