@@ -20,8 +20,9 @@ class KAVRIX_EXPORT BubbleDrawDescriptor {
  public:
   virtual ~BubbleDrawDescriptor() = default;
 
-  // The class name, without the namespace: a literal. Every derived class has its own, which As compares.
-  virtual const char* TypeName() const { return "BubbleDrawDescriptor"; }
+  // The class name, without the namespace: a literal. Every derived class has its own, which As compares;
+  // those of the library are in type_names.cpp.
+  virtual const char* TypeName() const;
 
   // Visit the 13 members of this class, and those that the derived class adds. Text output, JSON output and
   // equality all run these two.

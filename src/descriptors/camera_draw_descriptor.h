@@ -19,7 +19,7 @@ class KAVRIX_EXPORT CameraDrawDescriptor : public BubbleDrawDescriptor {
     std::int32_t speed = 0;  // speed limit
   };
 
-  const char* TypeName() const override { return "CameraDrawDescriptor"; }
+  const char* TypeName() const override;
   void VisitOwnMembers(MemberVisitor& visitor) const override {
     visitor.BeginList("cameras");
     for (const Camera& camera : cameras) {

@@ -12,7 +12,7 @@ namespace kavrix {
 // The comparison of a companion route with the main one.
 class KAVRIX_EXPORT CompanionBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
-  const char* TypeName() const override { return "CompanionBubbleDrawDescriptor"; }
+  const char* TypeName() const override;
   void VisitOwnMembers(MemberVisitor& visitor) const override {
     visitor.Text("time", time);
     visitor.Text("label", label);

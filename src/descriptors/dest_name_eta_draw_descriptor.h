@@ -12,7 +12,7 @@ namespace kavrix {
 // The destination's name and a second line, such as the time of arrival, at the end of a route.
 class KAVRIX_EXPORT DestNameEtaDrawDescriptor : public BubbleDrawDescriptor {
  public:
-  const char* TypeName() const override { return "DestNameEtaDrawDescriptor"; }
+  const char* TypeName() const override;
   void VisitOwnMembers(MemberVisitor& visitor) const override {
     visitor.Text("sub_text", sub_text);
     visitor.Word("second_style_value", second_style_value);

@@ -13,7 +13,7 @@ namespace kavrix {
 // The explanation of a route: a main line, secondary lines, an icon.
 class KAVRIX_EXPORT ExplainBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
-  const char* TypeName() const override { return "ExplainBubbleDrawDescriptor"; }
+  const char* TypeName() const override;
   void VisitOwnMembers(MemberVisitor& visitor) const override {
     visitor.Text("uid", uid);
     visitor.Text("explain_content", explain_content);

@@ -12,7 +12,7 @@ namespace kavrix {
 // The advice of HD guidance to change lanes.
 class KAVRIX_EXPORT HDLaneChangeBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
-  const char* TypeName() const override { return "HDLaneChangeBubbleDrawDescriptor"; }
+  const char* TypeName() const override;
   void VisitOwnMembers(MemberVisitor& visitor) const override {
     visitor.Integer("target_lane", target_lane);
     visitor.Integer("distance", distance);

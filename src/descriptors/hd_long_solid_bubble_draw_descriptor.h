@@ -9,7 +9,7 @@ namespace kavrix {
 // The callout of a long solid line in HD guidance. Has only the base members.
 class KAVRIX_EXPORT HDLongSolidBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
-  const char* TypeName() const override { return "HDLongSolidBubbleDrawDescriptor"; }
+  const char* TypeName() const override;
 };
 
 }  // namespace kavrix

@@ -12,7 +12,7 @@ namespace kavrix {
 // The label of the entries of an indoor place.
 class KAVRIX_EXPORT IndoorEntriesBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
-  const char* TypeName() const override { return "IndoorEntriesBubbleDrawDescriptor"; }
+  const char* TypeName() const override;
   void VisitOwnMembers(MemberVisitor& visitor) const override {
     visitor.Integer("entries_value", entries_value);
     visitor.Text("entries_text", entries_text);

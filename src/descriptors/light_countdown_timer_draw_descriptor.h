@@ -12,7 +12,7 @@ namespace kavrix {
 // The countdown of one traffic light.
 class KAVRIX_EXPORT LightCountdownTimerDrawDescriptor : public BubbleDrawDescriptor {
  public:
-  const char* TypeName() const override { return "LightCountdownTimerDrawDescriptor"; }
+  const char* TypeName() const override;
   void VisitOwnMembers(MemberVisitor& visitor) const override {
     visitor.Text("id", id);
     visitor.Integer("style", style);

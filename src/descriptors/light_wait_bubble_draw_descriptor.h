@@ -9,7 +9,7 @@ namespace kavrix {
 // The bubble shown while waiting at a traffic light. Has only the base members.
 class KAVRIX_EXPORT LightWaitBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
-  const char* TypeName() const override { return "LightWaitBubbleDrawDescriptor"; }
+  const char* TypeName() const override;
 };
 
 }  // namespace kavrix

@@ -13,7 +13,7 @@ namespace kavrix {
 // A map marker. The base's `content` is its image key.
 class KAVRIX_EXPORT MarkerDrawDescriptor : public BubbleDrawDescriptor {
  public:
-  const char* TypeName() const override { return "MarkerDrawDescriptor"; }
+  const char* TypeName() const override;
   void VisitOwnMembers(MemberVisitor& visitor) const override {
     visitor.Code("marker_type", MarkerType(marker_type));
     visitor.Text("name", name);

@@ -23,7 +23,7 @@ class KAVRIX_EXPORT MultiLightCountdownTimerDrawDescriptor : public BubbleDrawDe
     std::int32_t total_time = 0;
   };
 
-  const char* TypeName() const override { return "MultiLightCountdownTimerDrawDescriptor"; }
+  const char* TypeName() const override;
   void VisitOwnMembers(MemberVisitor& visitor) const override {
     visitor.Integer("style", style);
     visitor.Text("id", id);

@@ -12,7 +12,7 @@ namespace kavrix {
 // An accident on the route.
 class KAVRIX_EXPORT RouteAccidentBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
-  const char* TypeName() const override { return "RouteAccidentBubbleDrawDescriptor"; }
+  const char* TypeName() const override;
   void VisitOwnMembers(MemberVisitor& visitor) const override {
     visitor.Text("accident_id", accident_id);
     visitor.Integer("severity", severity);

@@ -12,7 +12,7 @@ namespace kavrix {
 // A safety warning ahead, such as a school or a sharp bend.
 class KAVRIX_EXPORT SafeWarningBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
-  const char* TypeName() const override { return "SafeWarningBubbleDrawDescriptor"; }
+  const char* TypeName() const override;
   void VisitOwnMembers(MemberVisitor& visitor) const override {
     visitor.Integer("category", category);
     visitor.Integer("distance", distance);

@@ -12,7 +12,7 @@ namespace kavrix {
 // The label on a route that shows the traffic ahead.
 class KAVRIX_EXPORT TrafficDrawDescriptor : public BubbleDrawDescriptor {
  public:
-  const char* TypeName() const override { return "TrafficDrawDescriptor"; }
+  const char* TypeName() const override;
   void VisitOwnMembers(MemberVisitor& visitor) const override {
     visitor.Text("light_text", light_text);
     visitor.Integer("extra_type", extra_type);

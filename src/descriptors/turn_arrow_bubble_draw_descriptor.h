@@ -11,7 +11,7 @@ namespace kavrix {
 // The next manoeuvre along the route.
 class KAVRIX_EXPORT TurnArrowBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
-  const char* TypeName() const override { return "TurnArrowBubbleDrawDescriptor"; }
+  const char* TypeName() const override;
   void VisitOwnMembers(MemberVisitor& visitor) const override { visitor.Integer("distance", distance); }
 
   std::int32_t distance = 0;  // to the manoeuvre

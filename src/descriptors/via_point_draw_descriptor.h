@@ -12,7 +12,7 @@ namespace kavrix {
 // The numbered circle at an intermediate stop of a route.
 class KAVRIX_EXPORT ViaPointDrawDescriptor : public BubbleDrawDescriptor {
  public:
-  const char* TypeName() const override { return "ViaPointDrawDescriptor"; }
+  const char* TypeName() const override;
   void VisitOwnMembers(MemberVisitor& visitor) const override {
     visitor.Text("route_id", route_id);
     visitor.Integer("index", index);

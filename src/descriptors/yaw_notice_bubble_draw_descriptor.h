@@ -12,7 +12,7 @@ namespace kavrix {
 // The notice that the car has left its route.
 class KAVRIX_EXPORT YawNoticeBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
-  const char* TypeName() const override { return "YawNoticeBubbleDrawDescriptor"; }
+  const char* TypeName() const override;
   void VisitOwnMembers(MemberVisitor& visitor) const override { visitor.Integer("reason", reason); }
 
   // Reads the members from the JSON object inside a whole resource name, prefix and marker included. False,
