@@ -5,16 +5,6 @@
 #include "util/json_value.h"
 
 namespace kavrix {
-namespace {
-
-NodeType TypeOf(const Json::Value& value) {
-  if (value.isString()) return NodeType::kText;
-  if (value.isArray()) return NodeType::kArray;
-  if (value.isObject()) return NodeType::kObject;
-  return JsonUtil::AsInt(value) ? NodeType::kInteger : NodeType::kOther;
-}
-
-}  // namespace
 
 bool PayloadNodes::Read(std::string_view payload) {
   if (ScanPlain(payload, nodes_)) return true;
@@ -30,31 +20,44 @@ void PayloadNodes::List(const Json::Value& root) { ListValue(root, 0, {}); }
 void PayloadNodes::ListValue(const Json::Value& value, std::uint32_t parent, std::string_view key) {
   const std::uint32_t index = nodes_.size();
   Node& node = nodes_.Append(parent, key);
-  node.type = TypeOf(value);
+  node.type = NodeType::kOther;
   node.bytes = nullptr;
   node.length = 0;
-  switch (node.type) {  // GCOVR_EXCL_BR_LINE: there is no other type
-    case NodeType::kInteger:
-      node.number = *JsonUtil::AsInt(value);
+  switch (value.type()) {
+    case Json::intValue:
+    case Json::uintValue: {
+      const std::optional<int> number = JsonUtil::AsInt(value);
+      if (!number) return;
+      node.type = NodeType::kInteger;
+      node.number = *number;
       return;
-    case NodeType::kText: {
+    }
+    case Json::stringValue: {
       const std::string_view text = *JsonUtil::AsText(value);
+      node.type = NodeType::kText;
       node.bytes = text.data();
       node.length = static_cast<std::uint32_t>(text.size());
       return;
     }
-    case NodeType::kArray:
+    case Json::arrayValue:
+      node.type = NodeType::kArray;
       for (const Json::Value& element : value) ListValue(element, index, {});
       return;
-    case NodeType::kObject:
-      for (auto it = value.begin(); it != value.end(); ++it) {
-        const char* key_end = nullptr;
-        const char* const member = it.memberName(&key_end);
-        ListValue(*it, index, {member, static_cast<std::size_t>(key_end - member)});
-      }
+    case Json::objectValue:
+      node.type = NodeType::kObject;
+      ListMembers(value, index);
       return;
-    case NodeType::kOther:
+    default:
       return;
+  }
+}
+
+void PayloadNodes::ListMembers(const Json::Value& object, std::uint32_t index) {
+  Json::Value::const_iterator it = object.begin();
+  for (Json::ArrayIndex left = object.size(); left > 0; --left, ++it) {  // comparing with end() costs more
+    const char* key_end = nullptr;
+    const char* const key = it.memberName(&key_end);
+    ListValue(*it, index, {key, static_cast<std::size_t>(key_end - key)});
   }
 }
 

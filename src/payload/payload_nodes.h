@@ -26,6 +26,7 @@ class PayloadNodes {
  private:
   void List(const Json::Value& root);
   void ListValue(const Json::Value& value, std::uint32_t parent, std::string_view key);
+  void ListMembers(const Json::Value& object, std::uint32_t index);
 
   NodeList nodes_;
   std::optional<Json::Value> tree_;  // holds the texts of a payload that is not plain
