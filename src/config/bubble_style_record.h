@@ -20,10 +20,7 @@ struct BubbleStyleRecord {
   BubbleStyleRecord() = default;
   // Most records have no items. Skipping them makes the snapshot of all records a fifth cheaper.
   BubbleStyleRecord(const BubbleStyleRecord& other)
-      : reserved_1(other.reserved_1),
-        name(other.name),
-        reserved_2(other.reserved_2),
-        values(other.values) {
+      : reserved_1(other.reserved_1), name(other.name), reserved_2(other.reserved_2), values(other.values) {
     if (!other.items.empty()) items = other.items;
   }
   BubbleStyleRecord(BubbleStyleRecord&&) noexcept = default;
