@@ -42,6 +42,7 @@ struct Node {
 // payloads need no memory beyond the object itself.
 class NodeList {
  public:
+  // cppcheck-suppress uninitMemberVar  // Append fills each node of inside_ before it is read
   NodeList() : nodes_(inside_) {}
   NodeList(const NodeList&) = delete;
   NodeList& operator=(const NodeList&) = delete;
