@@ -30,7 +30,7 @@ struct LaneChangeFormat : WholeNameFormat<LaneChangeFormat, HDLaneChangeBubbleDr
 }  // namespace
 
 bool HDLaneChangeBubbleDrawDescriptor::InitWithJson(const std::string& text) {
-  const std::string copy = text;  // which may be a member of this object
+  const std::string copy(text.begin(), text.end());  // of a text that may be a member of this object
   return LaneChangeFormat::Read(LaneChangeFormat::PayloadOf(copy), *this);
 }
 

@@ -30,7 +30,7 @@ struct RouteAccidentFormat : WholeNameFormat<RouteAccidentFormat, RouteAccidentB
 }  // namespace
 
 bool RouteAccidentBubbleDrawDescriptor::InitWithJson(const std::string& text) {
-  const std::string copy = text;  // which may be a member of this object
+  const std::string copy(text.begin(), text.end());  // of a text that may be a member of this object
   return RouteAccidentFormat::Read(RouteAccidentFormat::PayloadOf(copy), *this);
 }
 

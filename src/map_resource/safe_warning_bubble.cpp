@@ -48,7 +48,7 @@ Payload PayloadFor(const SafeWarningFormat&, const KeyWriter& written,
 }  // namespace
 
 bool SafeWarningBubbleDrawDescriptor::InitWithJson(const std::string& text) {
-  const std::string copy = text;  // which may be a member of this object
+  const std::string copy(text.begin(), text.end());  // of a text that may be a member of this object
   return ReadJsonObject(copy, [&](auto& keys) { SafeWarningFormat::List(keys, *this); });
 }
 

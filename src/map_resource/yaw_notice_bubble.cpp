@@ -29,7 +29,7 @@ struct YawNoticeFormat : WholeNameFormat<YawNoticeFormat, YawNoticeBubbleDrawDes
 }  // namespace
 
 bool YawNoticeBubbleDrawDescriptor::InitWithJson(const std::string& text) {
-  const std::string copy = text;  // which may be a member of this object
+  const std::string copy(text.begin(), text.end());  // of a text that may be a member of this object
   return YawNoticeFormat::Read(YawNoticeFormat::PayloadOf(copy), *this);
 }
 
