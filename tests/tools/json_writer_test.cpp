@@ -34,7 +34,7 @@ TEST(JsonWriterTest, TextsOfAnyBytesReadBackWithReplacements) {
   std::mt19937 random(1);
   for (int i = 0; i < 5000; ++i) {
     std::string text;
-    for (unsigned pieces = random() % 12; pieces > 0; --pieces) {
+    for (std::size_t pieces = random() % 12; pieces > 0; --pieces) {
       constexpr std::string_view kPieces[] = {"8 bytes.", "\"",   "\\",       "\n", "前",
                                               "😀",        "\xC3", "\xF0\x9F", "a"};
       text += kPieces[random() % std::size(kPieces)];
