@@ -14,6 +14,13 @@ run(${CMAKE_COMMAND} ${options} -B ${work}/add_subdirectory -DWAY=add_subdirecto
 run(${CMAKE_COMMAND} ${options} -B ${work}/build -DWAY=FetchContent)
 run(${CMAKE_COMMAND} --build ${work}/build)
 run(${work}/build/bin/decode)
+run(${work}/build/bin/use_shared_client)
+
+execute_process(COMMAND ${NM} --dynamic --defined-only --demangle ${work}/build/libshared_client.so OUTPUT_VARIABLE symbols
+                        COMMAND_ERROR_IS_FATAL ANY)
+if(symbols MATCHES "kavrix" OR NOT symbols MATCHES "ContentOf")
+  message(SEND_ERROR "the parent's shared library exports more than its own function:\n${symbols}")
+endif()
 
 run(${CMAKE_COMMAND} --install ${work}/build --prefix ${work}/prefix)
 file(
