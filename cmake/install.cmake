@@ -23,6 +23,7 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/kavrix_map_resource-confi
 install(FILES ${PROJECT_BINARY_DIR}/kavrix_map_resource-config.cmake
               ${PROJECT_BINARY_DIR}/kavrix_map_resource-config-version.cmake cmake/FindKavrixJsonCpp.cmake
         DESTINATION ${package_dir})
+install(DIRECTORY cmake/found_jsoncpp DESTINATION ${package_dir})
 
 # Finds its prefix from its own place, so that the installed tree can move.
 set(pc_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -1,0 +1,1 @@
+include(${kavrix_jsoncpp_dir}/jsoncppConfigVersion.cmake OPTIONAL)
