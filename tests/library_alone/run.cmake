@@ -29,3 +29,4 @@ expect(FAILS "${needs}" --preset release -DKAVRIX_BUILD_TOOL=ON)
 expect(FAILS "${needs}" --preset dev)
 expect(FAILS "JsonCpp was not found (Debian: libjsoncpp-dev)" --preset library -DCMAKE_DISABLE_FIND_PACKAGE_jsoncpp=ON
        -DCMAKE_DISABLE_FIND_PACKAGE_PkgConfig=ON)
+expect(FAILS "KAVRIX_JSONCPP_TARGET names no target: json_of_mine" --preset library -DKAVRIX_JSONCPP_TARGET=json_of_mine)
