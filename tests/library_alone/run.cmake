@@ -19,6 +19,13 @@ function(expect status text)
   if(output MATCHES "kavrix-resource" AND NOT text MATCHES "kavrix-resource")
     message(SEND_ERROR "${ARGN}: asks for the tool: ${output}")
   endif()
+  # With a compiler newer than ours, a new warning must not stop the build of a stranger.
+  if(status STREQUAL "SUCCEEDS")
+    file(READ ${work}/build.ninja rules)
+    if(rules MATCHES "-Werror" OR NOT rules MATCHES "-Wall")
+      message(SEND_ERROR "${ARGN}: expected -Wall without -Werror")
+    endif()
+  endif()
   file(REMOVE_RECURSE ${work})
 endfunction()
 
