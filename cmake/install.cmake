@@ -25,9 +25,19 @@ install(FILES ${PROJECT_BINARY_DIR}/kavrix_map_resource-config.cmake
         DESTINATION ${package_dir})
 install(DIRECTORY cmake/found_jsoncpp DESTINATION ${package_dir})
 
-# Finds its prefix from its own place, so that the installed tree can move.
+# Finds its prefix from its own place, so that the installed tree can move, unless it is told an absolute one.
 set(pc_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
-file(RELATIVE_PATH prefix_from_pc /prefix/${pc_dir} /prefix)
+set(pc_prefix ${CMAKE_INSTALL_PREFIX})
+if(NOT IS_ABSOLUTE ${pc_dir})
+  file(RELATIVE_PATH prefix_from_pc /prefix/${pc_dir} /prefix)
+  set(pc_prefix "\${pcfiledir}/${prefix_from_pc}")
+endif()
+foreach(dir INCLUDEDIR LIBDIR)
+  set(pc_${dir} ${CMAKE_INSTALL_${dir}})
+  if(NOT IS_ABSOLUTE ${pc_${dir}})
+    set(pc_${dir} "\${prefix}/${pc_${dir}}")
+  endif()
+endforeach()
 get_target_property(definitions kavrix_map_resource INTERFACE_COMPILE_DEFINITIONS)
 set(pc_definitions "")
 if(definitions)

@@ -34,5 +34,21 @@ separate_arguments(flags UNIX_COMMAND "${CXX_FLAGS} ${flags}")
 run(${CXX_COMPILER} -std=c++17 ${SOURCE_DIR}/main.cpp -o ${work}/pkg_config_client ${flags} -Wl,-rpath,${lib_dir})
 run(${work}/pkg_config_client)
 
+# A distribution may give its folders as absolute paths.
+function(expect_pkg_config includedir flags)
+  run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/../.. -B ${work}/absolute ${options} -DKAVRIX_BUILD_TOOL=OFF
+      -DCMAKE_INSTALL_PREFIX=/opt/map -DCMAKE_INSTALL_LIBDIR=/opt/lib64 -DCMAKE_INSTALL_INCLUDEDIR=${includedir})
+  set(ENV{PKG_CONFIG_PATH} ${work}/absolute)
+  execute_process(COMMAND pkg-config --cflags-only-I --libs-only-L kavrix_map_resource OUTPUT_VARIABLE found
+                          COMMAND_ERROR_IS_FATAL ANY)
+  string(FIND "${found}" "${flags}" place)
+  if(place EQUAL -1)
+    message(SEND_ERROR "${includedir}: expected that pkg-config prints ${flags}, found ${found}")
+  endif()
+endfunction()
+expect_pkg_config(/opt/headers "-I/opt/headers/kavrix_map_resource")
+expect_pkg_config(include "-I/opt/map/include/kavrix_map_resource")
+expect_pkg_config(include "-L/opt/lib64")
+
 run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/../jsoncpp -B ${work}/jsoncpp ${options})
 run(${CMAKE_COMMAND} --build ${work}/jsoncpp)
