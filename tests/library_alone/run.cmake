@@ -37,3 +37,5 @@ expect(FAILS "${needs}" --preset dev)
 expect(FAILS "JsonCpp was not found (Debian: libjsoncpp-dev)" --preset library -DCMAKE_DISABLE_FIND_PACKAGE_jsoncpp=ON
        -DCMAKE_DISABLE_FIND_PACKAGE_PkgConfig=ON)
 expect(FAILS "KAVRIX_JSONCPP_TARGET names no target: json_of_mine" --preset library -DKAVRIX_JSONCPP_TARGET=json_of_mine)
+expect(FAILS "on Windows the library is only built as a static one" --preset library -DBUILD_SHARED_LIBS=ON
+       -DCMAKE_SYSTEM_NAME=Windows -DCMAKE_CXX_COMPILER_WORKS=ON)
