@@ -1,5 +1,6 @@
 # Compares the dynamic symbols of the shared LIBRARY with the public headers: every function and class that these declare
-# for export is exported, and nothing else, not even what the library instantiates of the standard library.
+# for export is exported, and nothing else, not even what the library instantiates of the standard library. Also looks at
+# the library's name for the linker and at the libraries that it needs.
 cmake_minimum_required(VERSION 3.22)
 include(${SOURCE_DIR}/cmake/public_headers.cmake)
 set(text "")
@@ -16,6 +17,17 @@ string(REGEX MATCHALL "\n[A-Za-z][A-Za-z_0-9:<>& ]* [A-Za-z_0-9=!<>]+\\([^{}$]*\
 list(TRANSFORM functions REPLACE "^[^(]* ([^ (]+)\\(.*$" "\\1")
 string(REGEX MATCHALL "KAVRIX_EXPORT [A-Z][A-Za-z]+ [{:]" classes "${text}")
 list(TRANSFORM classes REPLACE "^KAVRIX_EXPORT ([A-Za-z]+).*" "\\1")
+
+# A client that derives from a class with virtual functions, casts to it or catches it needs its vtable and its typeinfo.
+set(polymorphic_classes "")
+string(REGEX REPLACE "\n(class|struct) (KAVRIX_EXPORT )?" ";" parts "${text}")
+foreach(part IN LISTS parts)
+  string(REGEX REPLACE "\n}\\$.*" "" body "${part}")
+  string(REGEX MATCH "^[A-Za-z]+" class "${body}")
+  if(body MATCHES "^[A-Za-z]+ : (public|private) |^[A-Za-z]+ [^$]*{.*[ \n]virtual " AND NOT class STREQUAL "PlogSink")
+    list(APPEND polymorphic_classes ${class}) # PlogSink is compiled by the client
+  endif()
+endforeach()
 
 execute_process(COMMAND ${NM} --dynamic --defined-only --demangle --format=posix ${LIBRARY} OUTPUT_VARIABLE symbols
                         COMMAND_ERROR_IS_FATAL ANY)
@@ -45,10 +57,35 @@ foreach(name IN LISTS functions classes)
     message(SEND_ERROR "does not export ${name}")
   endif()
 endforeach()
+foreach(class IN LISTS polymorphic_classes)
+  foreach(kind vtable typeinfo "typeinfo name")
+    if(NOT ";${symbols};" MATCHES ";${kind} for kavrix::([a-z]+::)?${class};")
+      message(SEND_ERROR "does not export the ${kind} for ${class}")
+    endif()
+  endforeach()
+endforeach()
+
+execute_process(COMMAND ${OBJDUMP} -p ${LIBRARY} OUTPUT_VARIABLE dynamic COMMAND_ERROR_IS_FATAL ANY)
+string(REGEX MATCH "SONAME +([^\n]*)" soname "${dynamic}")
+if(NOT CMAKE_MATCH_1 STREQUAL "libkavrix_map_resource.so.0.1")
+  message(SEND_ERROR "expected the SONAME libkavrix_map_resource.so.0.1, which the README names, found ${CMAKE_MATCH_1}")
+endif()
+string(REGEX MATCHALL "NEEDED +[^\n]+" needed "${dynamic}")
+foreach(library IN LISTS needed)
+  if(NOT library MATCHES "lib(jsoncpp|stdc\\+\\+|c\\+\\+|c\\+\\+abi|unwind|gcc_s|c|m)[.]so")
+    message(SEND_ERROR "needs more than JsonCpp and the libraries of C and C++: ${library}")
+  endif()
+endforeach()
+if(NOT needed MATCHES "libjsoncpp[.]so")
+  message(SEND_ERROR "does not need JsonCpp: ${needed}")
+endif()
+
 list(LENGTH functions function_count)
 list(LENGTH classes class_count)
+list(LENGTH polymorphic_classes polymorphic_count)
 list(LENGTH symbols symbol_count)
-message("${function_count} functions and ${class_count} classes declared, ${symbol_count} symbols exported")
-if(function_count LESS 30 OR class_count LESS 20)
+message("${function_count} functions and ${class_count} classes declared, ${polymorphic_count} of them with virtual functions, "
+        "${symbol_count} symbols exported")
+if(function_count LESS 30 OR class_count LESS 20 OR polymorphic_count LESS 24)
   message(SEND_ERROR "found too few declarations in the public headers")
 endif()

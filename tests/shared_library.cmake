@@ -1,6 +1,6 @@
 # Tests the shared library, which hides its internals.
 add_test(NAME SharedLibraryExportsOnlyThePublicApi
-         COMMAND ${CMAKE_COMMAND} -DNM=${CMAKE_NM} -DLIBRARY=$<TARGET_FILE:kavrix_map_resource>
+         COMMAND ${CMAKE_COMMAND} -DNM=${CMAKE_NM} -DOBJDUMP=${CMAKE_OBJDUMP} -DLIBRARY=$<TARGET_FILE:kavrix_map_resource>
                  -DSOURCE_DIR=${PROJECT_SOURCE_DIR} -P ${CMAKE_CURRENT_SOURCE_DIR}/exported_symbols.cmake)
 
 # Links the unit tests that include only public headers once more, with the shared library.
