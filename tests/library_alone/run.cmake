@@ -29,9 +29,12 @@ function(expect status text)
   file(REMOVE_RECURSE ${work})
 endfunction()
 
-set(needs "the tool kavrix-resource needs CLI11, fmt (Debian: libcli11-dev libfmt-dev)")
+set(needs "the tool kavrix-resource needs CLI11, fmt, Threads (Debian: libcli11-dev libfmt-dev)")
 expect(SUCCEEDS "Found KavrixJsonCpp" --preset library)
 expect(SUCCEEDS "${needs}; it is left out" --preset release)
+expect(SUCCEEDS "the tool kavrix-resource needs Threads (Debian: libcli11-dev libfmt-dev); it is left out" --preset release
+       -DCMAKE_DISABLE_FIND_PACKAGE_CLI11=OFF -DCMAKE_DISABLE_FIND_PACKAGE_fmt=OFF)
+expect(SUCCEEDS "Found KavrixJsonCpp" --preset release -DKAVRIX_BUILD_TOOL=OFF)
 expect(FAILS "${needs}" --preset release -DKAVRIX_BUILD_TOOL=ON)
 expect(FAILS "${needs}" --preset dev)
 expect(FAILS "JsonCpp was not found (Debian: libjsoncpp-dev)" --preset library -DCMAKE_DISABLE_FIND_PACKAGE_jsoncpp=ON
