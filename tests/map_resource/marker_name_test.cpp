@@ -1,7 +1,9 @@
+#include <json/reader.h>
+
 #include <limits>
 #include <locale>
+#include <sstream>
 
-#include "payload/json_tree.h"
 #include "tests/support/decode_test.h"
 
 namespace kavrix::test {
@@ -186,7 +188,8 @@ TEST_F(MarkerNameTest, NameShorterThanThePrefixThrowsWithOutUntouched) {
 
 TEST_F(MarkerNameTest, ParsedObjectFillsANewMarkerWithoutATransform) {
   Json::Value root;
-  ASSERT_TRUE(ParseTree(R"({"marker_type":12,"name":"Home"})", root));
+  root["marker_type"] = 12;
+  root["name"] = "Home";
   const auto earlier = std::make_shared<MarkerDrawDescriptor>();
   out_ = earlier;
   MapResourceTransform::ParseMarkerResourceName(root, out_);
@@ -202,7 +205,7 @@ TEST_F(MarkerNameTest, ParsedObjectGivesTheMarkerThatItsNameGives) {
         R"({"name":["x"],"lan":null,"is_main_map":true,"other":{"name":"deep"},"":0})",
         R"({/**/"name":"a comment","marker_type":3})", R"({"n\u0061me":"an escaped key"})"}) {
     Json::Value root;
-    ASSERT_TRUE(ParseTree(payload, root)) << payload;
+    std::istringstream(payload) >> root;
     MapResourceTransform::ParseMarkerResourceName(root, out_);
     const auto from_value = out_;
     DecodeMarkerWhole(MapResourceManager::kavrix_resource_prefix + payload + ".marker");

@@ -2,11 +2,10 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <json/reader.h>
 
+#include <sstream>
 #include <type_traits>
-
-#include "payload/json_tree.h"
-#include "util/json_value.h"
 
 namespace kavrix::test {
 namespace {
@@ -18,7 +17,7 @@ static_assert(
 
 Json::Value Object(const std::string& text) {
   Json::Value root;
-  EXPECT_TRUE(ParseTree(text, root)) << text;
+  std::istringstream(text) >> root;
   return root;
 }
 
