@@ -97,6 +97,9 @@ class TextWriter : public MemberVisitor {
 
 }  // namespace
 
+// Here, so that the library has the only vtable of the class.
+MemberVisitor::~MemberVisitor() = default;
+
 void BubbleDrawDescriptor::VisitBaseMembers(MemberVisitor& visitor) const {
   visitor.Integer("scene", scene);
   visitor.Text("content", content);

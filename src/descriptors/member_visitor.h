@@ -14,7 +14,7 @@ namespace kavrix {
 // marker types arrive as integers unless the visitor overrides Word and Code.
 class KAVRIX_EXPORT MemberVisitor {
  public:
-  virtual ~MemberVisitor() = default;
+  virtual ~MemberVisitor();
   virtual void Integer(const char* name, std::int64_t value) = 0;
   virtual void Word(const char* name, std::uint32_t value) { Integer(name, value); }
   virtual void Code(const char* name, MarkerType value) { Integer(name, static_cast<std::int64_t>(value)); }

@@ -63,6 +63,9 @@ void SetLoggerInstance(std::uint32_t instance_id, LoggerInstance instance) {
   Instances().Set(instance_id, std::make_shared<const LoggerInstance>(std::move(instance)));
 }
 
+// Here, so that the library has the only vtable of the class.
+LogSink::~LogSink() = default;
+
 bool Logger::TestLogLevelAndTag(std::uint32_t instance_id, LogLevel level, const std::string& tag) noexcept {
   try {
     const InstancePointer instance = Instances().Find(instance_id);

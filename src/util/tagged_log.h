@@ -34,7 +34,7 @@ struct LogRecord {
 
 class KAVRIX_EXPORT LogSink {
  public:
-  virtual ~LogSink() = default;
+  virtual ~LogSink();
   // Called on the decoding thread with no lock held, possibly by several threads at once: the sink locks
   // itself. It may decode names itself. What it throws is dropped together with the log record.
   virtual void Write(const LogRecord& record) = 0;
