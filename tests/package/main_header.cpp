@@ -5,7 +5,10 @@
 #if defined(JSON_CONFIG_H_INCLUDED) || defined(JSON_FORWARDS_H_INCLUDED) || defined(JSON_H_INCLUDED)
 #error "the main header includes JsonCpp"
 #endif
-#if defined(_GLIBCXX_OSTREAM) || defined(_GLIBCXX_ISTREAM) || defined(_GLIBCXX_SSTREAM)
+#if defined(_GLIBCXX_ISTREAM) || defined(_GLIBCXX_SSTREAM)
+#error "the main header includes the streams"
+#endif
+#if defined(_GLIBCXX_OSTREAM) && __cplusplus < 202002L  // as C++20, <memory> includes it
 #error "the main header includes the streams"
 #endif
 #if defined(KAVRIX_DESCRIPTORS_DESCRIPTORS_H_) || defined(KAVRIX_DESCRIPTORS_TRAFFIC_DRAW_DESCRIPTOR_H_)
