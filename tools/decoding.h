@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "map_resource/bubble_kinds.h"
@@ -15,7 +16,7 @@ namespace kavrix::tools {
 struct CapturedRecord {
   int level;
   std::string tag;
-  std::string function;
+  std::string_view function;  // of a __func__, which is never destroyed
   std::string message;
 };
 

@@ -3,18 +3,16 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <string>
 #include <string_view>
 
+#include "util/text_buffer.h"
+
 namespace kavrix::tools {
 
-// JSON text, written as it comes, into one buffer without a call for each piece: in bulk, much of the time
-// goes here. Texts may hold any bytes: what is not UTF-8 becomes U+FFFD.
+// JSON text, written as it comes. Texts may hold any bytes: what is not UTF-8 becomes U+FFFD.
 class JsonWriter {
  public:
-  JsonWriter() : buffer_(kUsualLineSize, '\0') {}
-
   void BeginObject() { Open('{'); }
   void EndObject() { Close('}'); }
   void BeginArray() { Open('['); }
@@ -33,48 +31,30 @@ class JsonWriter {
   std::string TakeLine();
 
  private:
-  // Returns a place for at least `size` bytes.
-  char* Reserve(std::size_t size) {
-    if (buffer_.size() - size_ < size) Grow(size);
-    return &buffer_[size_];
-  }
-  void Grow(std::size_t size);
-
-  void Put(char c) {
-    *Reserve(1) = c;
-    ++size_;
-  }
-  void Put(std::string_view bytes) {
-    std::memcpy(Reserve(bytes.size()), bytes.data(), bytes.size());
-    size_ += bytes.size();
-  }
-  template <class Number>
-  void PutNumber(Number value);
   std::size_t PutCharacter(std::string_view text);
   void PutEscape(char c);
 
   void Raw(std::string_view value) {
     Separate();
-    Put(value);
+    text_ += value;
   }
   void Open(char bracket) {
     Separate();
-    Put(bracket);
+    text_ += bracket;
     needs_comma_ = false;
   }
   void Close(char bracket) {
-    Put(bracket);
+    text_ += bracket;
     needs_comma_ = true;
   }
   void Separate() {
-    if (needs_comma_) Put(',');
+    if (needs_comma_) text_ += ',';
     needs_comma_ = true;
   }
 
   static constexpr std::size_t kUsualLineSize = 2048;  // what a line need not grow to by many small steps
 
-  std::string buffer_;  // larger than what was written
-  std::size_t size_ = 0;
+  TextBuffer text_{kUsualLineSize};
   bool needs_comma_ = false;  // before the next value or key
 };
 

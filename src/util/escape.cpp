@@ -31,7 +31,8 @@ void AppendPiece(std::string& line, const Utf8Piece& piece, std::string_view byt
   line += bytes;
 }
 
-void AppendEscaped(std::string& line, std::string_view text, Quotes quotes) {
+template <class Line>
+void AppendEscaped(Line& line, std::string_view text, Quotes quotes) {
   std::size_t plain = 0;  // bytes at the beginning that need no escape, not yet appended
   for (;;) {
     plain += UnescapedLength(text.substr(plain));
@@ -42,11 +43,20 @@ void AppendEscaped(std::string& line, std::string_view text, Quotes quotes) {
       continue;
     }
     line += text.substr(0, plain);
-    AppendPiece(line, piece, text.substr(plain, piece.length));
+    std::string escape;
+    AppendPiece(escape, piece, text.substr(plain, piece.length));
+    line += escape;
     text.remove_prefix(plain + piece.length);
     plain = 0;
   }
   line += text;
+}
+
+template <class Line>
+void AppendInQuotes(Line& line, std::string_view text) {
+  line += '"';
+  AppendEscaped(line, text, Quotes::kEscaped);
+  line += '"';
 }
 
 }  // namespace
@@ -66,10 +76,7 @@ void AppendControl(std::string& line, char32_t c) {
 
 void AppendEscaped(std::string& line, std::string_view text) { AppendEscaped(line, text, Quotes::kKept); }
 
-void AppendQuoted(std::string& line, std::string_view text) {
-  line += '"';
-  AppendEscaped(line, text, Quotes::kEscaped);
-  line += '"';
-}
+void AppendQuoted(std::string& line, std::string_view text) { AppendInQuotes(line, text); }
+void AppendQuoted(TextBuffer& line, std::string_view text) { AppendInQuotes(line, text); }
 
 }  // namespace kavrix

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "util/text_buffer.h"
+
 namespace kavrix {
 
 // Appends untrusted text, and escapes what could end the line, begin another or move the cursor, as
@@ -13,6 +15,7 @@ void AppendEscaped(std::string& line, std::string_view text);
 // The same in double quotes, and escapes the quotes of the text too: AppendQuoted(line, "say \"hi\"") appends
 // "say \"hi\"".
 void AppendQuoted(std::string& line, std::string_view text);
+void AppendQuoted(TextBuffer& line, std::string_view text);
 
 // Appends the escape of one control character, such as \n or \u001b.
 void AppendControl(std::string& line, char32_t c);
