@@ -1,6 +1,11 @@
 #include "payload/plain_scanner.h"
 
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
 #include <cstdint>
+#include <cstring>
 #include <limits>
 
 #include "payload/escapes.h"
@@ -109,6 +114,16 @@ class PlainScanner {
   }
 
   const char* FindQuoteOrBackslash(const char* at) const {
+#ifdef __SSE2__  // every x86-64 processor has it
+    for (; last_ - at >= 16; at += 16) {
+      __m128i bytes;
+      std::memcpy(&bytes, at, sizeof bytes);
+      const __m128i marks =
+          _mm_or_si128(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('"')), _mm_cmpeq_epi8(bytes, _mm_set1_epi8('\\')));
+      const auto bits = static_cast<unsigned>(_mm_movemask_epi8(marks));
+      if (bits != 0) return at + __builtin_ctz(bits);
+    }
+#endif
     for (; last_ - at >= 8; at += 8) {
       const std::uint64_t word = eight_bytes::Load(at);
       const std::uint64_t marks = eight_bytes::Mark(word, '"') | eight_bytes::Mark(word, '\\');
