@@ -21,11 +21,31 @@ inline Name MakeName(const char* id, const std::string& payload, const std::stri
   return {id, payload, MapResourceManager::kavrix_resource_prefix + payload + rest};
 }
 
-inline const Name& P1() {
-  static const Name name = MakeName(
-      "P1",
-      R"({"content":"前方拥堵约2公里","direction":1,"mode":0,"light_text":"3个红灯","scene":1,"extra_type":2,"nav_mode":1})",
+// P1, whose last value is `nav_mode`. `payload_end` is all that follows it.
+inline Name MakeP1(const char* id, const std::string& nav_mode, const std::string& payload_end) {
+  return MakeName(
+      id,
+      R"({"content":"前方拥堵约2公里","direction":1,"mode":0,"light_text":"3个红灯","scene":1,"extra_type":2,"nav_mode":)" +
+          nav_mode + payload_end,
       ".trafficBubble");
+}
+
+inline const Name& P1() {
+  static const Name name = MakeP1("P1", "1", "}");
+  return name;
+}
+
+// Three that are not plain JSON, which only their last bytes tell: the scanner leaves them to JsonCpp late.
+inline const Name& P1WithComment() {
+  static const Name name = MakeP1("P1 with a comment", "1", "/**/}");
+  return name;
+}
+inline const Name& P1WithLongNumber() {
+  static const Name name = MakeP1("P1 with 19 digits", "1000000000000000000", "}");
+  return name;
+}
+inline const Name& P1Broken() {
+  static const Name name = MakeP1("P1 with a broken end", "1", "]}");
   return name;
 }
 

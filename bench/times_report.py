@@ -24,7 +24,9 @@ def read(path):
 
 def ratios(times):
     ways = [("decode", "whole decode"), ("bare-parse", "bare JsonCpp parse"), ("reference", "reference decoder"),
-            ("nlohmann-job", "parse + keys, nlohmann::json"), ("rapidjson-job", "parse + keys, RapidJSON")]
+            ("library-job", "parse + keys, this library"), ("simdjson-job", "parse + keys, simdjson on demand"),
+            ("rapidjson-job", "parse + keys, RapidJSON"), ("nlohmann-job", "parse + keys, nlohmann::json"),
+            ("jsoncpp-job", "parse + keys, JsonCpp, the way before")]
     rows = []
     for way, title in ways:
         row = [title]
@@ -75,7 +77,7 @@ def main(build, docs):
         times = {case: times[case] for case in file.read().splitlines()}
     parts = {"Ratios": ratios(times), "Stages": stages(times), "Kinds": kinds(times),
              "Long names": linear(times), "Threads": threads(f"{build}/threads.tsv")}
-    text = machine("libjsoncpp-dev", "libbenchmark-dev", "nlohmann-json3-dev", "rapidjson-dev")
+    text = machine("libjsoncpp-dev", "libbenchmark-dev", "libsimdjson-dev", "nlohmann-json3-dev", "rapidjson-dev")
     with open(f"{build}/times.json", encoding="utf-8") as file:
         load = json.load(file)["context"]["load_avg"]
     text += f"Load of the machine when it began: {load[0]:.1f}. The least processor time of five runs.\n"
