@@ -7,7 +7,7 @@ import json
 import statistics
 import sys
 
-from report import group, machine, rewrite_section, table
+from report import machine, rewrite_section, table
 
 
 def read(path):
@@ -26,7 +26,7 @@ def ratios(times):
     ways = [("decode", "whole decode"), ("bare-parse", "bare JsonCpp parse"), ("reference", "reference decoder"),
             ("library-job", "parse + keys, this library"), ("simdjson-job", "parse + keys, simdjson on demand"),
             ("rapidjson-job", "parse + keys, RapidJSON"), ("nlohmann-job", "parse + keys, nlohmann::json"),
-            ("jsoncpp-job", "parse + keys, JsonCpp, the way before")]
+            ("jsoncpp-job", "parse + keys, JsonCpp")]
     rows = []
     for way, title in ways:
         row = [title]
@@ -35,27 +35,6 @@ def ratios(times):
             row += [f"{time:,.0f}", f"{time / times[f'bare-parse/{name}']:.2f}"]
         rows.append(row)
     return table(["ns", "P1", "ratio", "P2", "ratio", "P3", "ratio"], rows)
-
-
-def stages(times):
-    cases = ["find/P1", "envelope/P1", "parse/P1", "keys/P1", "snapshot/names of 8 bytes",
-             "snapshot/names of 24 bytes, 4 items", "log/off", "log/on", "decode/P1", "decode-logs-on/P1", "decode/P4",
-             "reference/P4", "decode-logs-on/P4"]
-    return table(["case", "ns"], [[case.replace("/", ", "), f"{times[case]:,.1f}"] for case in cases])
-
-
-def kinds(times):
-    reference = group(times, "reference-kind")
-    rows = [[kind.replace("_", " "), f"{time:,.0f}", f"{reference[kind]:,.0f}", f"{reference[kind] / time:.2f}"]
-            for kind, time in group(times, "kind").items()]
-    return table(["kind", "decode, ns", "reference decoder, ns", "ratio"], rows)
-
-
-def linear(times):
-    one, two = group(times, "linear/1"), group(times, "linear/2")
-    rows = [[f"`{what}`", f"{time / 1e6:,.3f}", f"{two[what] / 1e6:,.3f}", f"{two[what] / time:.2f}"]
-            for what, time in one.items()]
-    return table(["made of", "10⁶ bytes, ms", "2 × 10⁶ bytes, ms", "ratio"], rows)
 
 
 def threads(path):
@@ -73,14 +52,11 @@ def threads(path):
 
 def main(build, docs):
     times = read(f"{build}/times.json")
-    with open(f"{build}/cases.txt", encoding="utf-8") as file:
-        times = {case: times[case] for case in file.read().splitlines()}
-    parts = {"Ratios": ratios(times), "Stages": stages(times), "Kinds": kinds(times),
-             "Long names": linear(times), "Threads": threads(f"{build}/threads.tsv")}
+    parts = {"Ratios": ratios(times), "Threads": threads(f"{build}/threads.tsv")}
     text = machine("libjsoncpp-dev", "libbenchmark-dev", "libsimdjson-dev", "nlohmann-json3-dev", "rapidjson-dev")
     with open(f"{build}/times.json", encoding="utf-8") as file:
         load = json.load(file)["context"]["load_avg"]
-    text += f"Load of the machine when it began: {load[0]:.1f}. The least processor time of five runs.\n"
+    text += f"Load of the machine when it began: {load[0]:.1f}. The least processor time of twenty runs.\n"
     for title, part in parts.items():
         text += f"\n### {title}\n\n{part}"
     rewrite_section(f"{docs}/performance.md", "times", text)
