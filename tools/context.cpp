@@ -9,7 +9,7 @@
 namespace kavrix::tools {
 namespace {
 
-TransformSetup FromFile(BubbleLayerConfigFile file, const std::optional<std::string>& context_name) {
+inspect::TransformSetup FromFile(BubbleLayerConfigFile file, const std::optional<std::string>& context_name) {
   auto context = std::make_shared<KavrixContext>(context_name.value_or(file.context_name));
   context->multi_light_type = file.multi_light_type;
   context->SetBubbleLayerConfig(std::move(file.bubble_layer));
@@ -18,11 +18,12 @@ TransformSetup FromFile(BubbleLayerConfigFile file, const std::optional<std::str
 
 }  // namespace
 
-TransformSetup LoadDefaultConfig(const std::optional<std::string>& context_name) {
+inspect::TransformSetup LoadDefaultConfig(const std::optional<std::string>& context_name) {
   return FromFile(ParseBubbleLayerConfig(kDefaultConfig), context_name);
 }
 
-TransformSetup LoadConfig(const std::string& config_path, const std::optional<std::string>& context_name) {
+inspect::TransformSetup LoadConfig(const std::string& config_path,
+                                   const std::optional<std::string>& context_name) {
   const std::string text = ReadFile(config_path);
   try {
     return FromFile(ParseBubbleLayerConfig(text), context_name);

@@ -5,13 +5,13 @@
 #include <optional>
 #include <utility>
 
+#include "inspect/decoded_json.h"
+#include "inspect/decoder.h"
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_manager.h"
 #include "tools/bulk.h"
 #include "tools/context.h"
-#include "tools/decoding.h"
 #include "tools/format_option.h"
-#include "tools/json_output.h"
 #include "tools/text_output.h"
 
 namespace kavrix::tools {
@@ -47,10 +47,11 @@ std::string FieldsLine(const std::string& name, EntryPoint entry_point) {
 
 int Run(const DecodeOptions& options) {
   if (options.prefix) MapResourceManager::kavrix_resource_prefix = options.prefix->c_str();
-  const TransformSetup setup = options.config_path ? LoadConfig(*options.config_path, options.context_name)
-                                                   : LoadDefaultConfig(options.context_name);
+  const inspect::TransformSetup setup = options.config_path
+                                            ? LoadConfig(*options.config_path, options.context_name)
+                                            : LoadDefaultConfig(options.context_name);
   const EntryPoint entry_point = options.marker ? EntryPoint::kMarker : EntryPoint::kBubble;
-  Decoder decoder(setup, entry_point);
+  inspect::Decoder decoder(setup, entry_point);
 
   const bool as_text = options.format == "text";
   const char* const no_colour = std::getenv("NO_COLOR");
@@ -59,8 +60,8 @@ int Run(const DecodeOptions& options) {
 
   const auto decode = [&](std::string name) -> NameResult {
     if (options.fields) return ResultOf([&] { return FieldsLine(name, entry_point); });
-    const Decoded decoded = decoder.Decode(std::move(name));
-    return {as_text ? ToText(decoded, text_options) : ToJsonLine(decoded), decoded.failed, ""};
+    const inspect::Decoded decoded = decoder.Decode(std::move(name));
+    return {as_text ? ToText(decoded, text_options) : inspect::ToJsonLine(decoded), decoded.failed, ""};
   };
   return WorkInBulk(options.bulk, decode) == 0 ? 0 : 1;
 }

@@ -6,10 +6,10 @@
 #include <memory>
 #include <optional>
 
+#include "inspect/json_writer.h"
 #include "map_resource/resource_catalogue.h"
 #include "tools/error_line.h"
 #include "tools/format_option.h"
-#include "tools/json_writer.h"
 #include "tools/streams.h"
 
 namespace kavrix::tools {
@@ -55,7 +55,7 @@ std::string ToText(const Icon& icon) {
 }
 
 std::string ToJson(const Icon& icon) {
-  JsonWriter json;
+  inspect::JsonWriter json;
   json.BeginObject();
   json.Key("day_id");
   json.Integer(icon.day_id);

@@ -7,11 +7,11 @@
 #include <optional>
 #include <utility>
 
+#include "inspect/decoder.h"
+#include "inspect/json_writer.h"
 #include "map_resource/bubble_kinds.h"
 #include "tools/context.h"
-#include "tools/decoding.h"
 #include "tools/format_option.h"
-#include "tools/json_writer.h"
 #include "tools/samples.h"
 #include "tools/streams.h"
 #include "tools/text_output.h"
@@ -91,7 +91,7 @@ std::string ToText(const Kind& kind) {
 }
 
 std::string ToJson(const Kind& kind) {
-  JsonWriter json;
+  inspect::JsonWriter json;
   json.BeginObject();
   json.Key("kind");
   json.Text(kind.info.Name());
@@ -131,7 +131,7 @@ std::string ToMarkdown(const Kind& kind) {
                       KindCodeText(kind.info), WayText(kind.info.way));
   text += "| carries | type |\n| --- | --- |\n";
   for (const KeyInfo& key : kind.keys) text += fmt::format("| `{}` | {} |\n", key.key, KeyText(key));
-  Decoder decoder(LoadDefaultConfig(), kind.info.entry_point);
+  inspect::Decoder decoder(LoadDefaultConfig(), kind.info.entry_point);
   const std::string fields = kind.info.codec.read_fields(kind.sample).value_or("{}");
   text +=
       fmt::format("\nPlacing, for `kavrix-resource encode`:\n\n```\n{{\"kind\":\"{}\",\"fields\":{}}}\n```\n",

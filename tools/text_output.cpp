@@ -62,16 +62,16 @@ void AddMembers(const BubbleDrawDescriptor& descriptor, const TextOptions& optio
   }
 }
 
-void AddRecords(const std::vector<CapturedRecord>& records, Page& page) {
+void AddRecords(const std::vector<inspect::CapturedRecord>& records, Page& page) {
   if (records.empty()) return page.Line("records", page.Dim("none"));
   page.Heading("records");
   std::size_t tag_width = 0;
   std::size_t function_width = 0;
-  for (const CapturedRecord& record : records) {
+  for (const inspect::CapturedRecord& record : records) {
     tag_width = std::max(tag_width, record.tag.size());
     function_width = std::max(function_width, record.function.size());
   }
-  for (const CapturedRecord& record : records) {
+  for (const inspect::CapturedRecord& record : records) {
     const std::string level = std::to_string(record.level);
     page.Indented(fmt::format("{}  {:<{}}  {:<{}}  {}", record.level == 0 ? level : page.Bad(level),
                               record.tag, tag_width, record.function, function_width,
@@ -97,7 +97,7 @@ std::string Printable(std::string_view text) {
   return printable;
 }
 
-std::string ToText(const Decoded& decoded, const TextOptions& options) {
+std::string ToText(const inspect::Decoded& decoded, const TextOptions& options) {
   Page page(options);
   page.Headline(decoded.name);
   page.Line("kind", decoded.kind ? std::string(MarkerOf(*decoded.kind).substr(1)) : page.Dim("none"));
@@ -107,7 +107,7 @@ std::string ToText(const Decoded& decoded, const TextOptions& options) {
   } else {
     page.Line("descriptor", decoded.descriptor->TypeName());
     AddMembers(*decoded.descriptor, options, page);
-    const std::string style = decoded.kind ? StyleRecordUsed(decoded.name) : "";
+    const std::string style = decoded.kind ? inspect::StyleRecordUsed(decoded.name) : "";
     page.Line("style", style.empty() ? page.Dim("none from the configuration") : style);
   }
   AddRecords(decoded.records, page);

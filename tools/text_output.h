@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "tools/decoding.h"
+#include "inspect/decoder.h"
 
 namespace kavrix::tools {
 
@@ -14,7 +14,7 @@ struct TextOptions {
 };
 
 // For a person to read: name, kind, members, style record and log records, aligned.
-std::string ToText(const Decoded& decoded, const TextOptions& options);
+std::string ToText(const inspect::Decoded& decoded, const TextOptions& options);
 
 // A text from a name made safe for a terminal: control characters as escapes, what is not UTF-8 as U+FFFD.
 std::string Printable(std::string_view text);

@@ -7,7 +7,7 @@ namespace {
 
 class Flattener : public MemberVisitor {
  public:
-  explicit Flattener(std::vector<FlatMember>& members) : members_(members) {}
+  Flattener(std::vector<FlatMember>& members, ListLengths lengths) : members_(members), lengths_(lengths) {}
 
   void Integer(const char* name, std::int64_t value) override { Add(name, value); }
   void Word(const char* name, std::uint32_t value) override { Add(name, value); }
@@ -17,10 +17,16 @@ class Flattener : public MemberVisitor {
   void Text(const char* name, const std::string& value) override { Add(name, value); }
 
   void BeginList(const char* name) override {
+    place_of_length_ = members_.size();
+    if (lengths_ == ListLengths::kIncluded) Add(name, std::int64_t{0});
     list_ = name;
     next_index_ = 0;
   }
-  void EndList() override { list_.clear(); }
+  void EndList() override {
+    if (lengths_ == ListLengths::kIncluded)
+      members_[place_of_length_].value = static_cast<std::int64_t>(next_index_);
+    list_.clear();
+  }
   void BeginObject() override { object_ = ItemPath() + "."; }
   void EndObject() override { object_.clear(); }
 
@@ -34,16 +40,18 @@ class Flattener : public MemberVisitor {
   std::string ItemPath() { return list_ + "[" + std::to_string(next_index_++) + "]"; }
 
   std::vector<FlatMember>& members_;
+  const ListLengths lengths_;
   std::string list_;    // the list being visited, if any
   std::string object_;  // the path of the object being visited, if any
   std::size_t next_index_ = 0;
+  std::size_t place_of_length_ = 0;
 };
 
 }  // namespace
 
-std::vector<FlatMember> FlatMembers(const BubbleDrawDescriptor& descriptor) {
+std::vector<FlatMember> FlatMembers(const BubbleDrawDescriptor& descriptor, ListLengths lengths) {
   std::vector<FlatMember> members;
-  Flattener flattener(members);
+  Flattener flattener(members, lengths);
   descriptor.VisitBaseMembers(flattener);
   descriptor.VisitOwnMembers(flattener);
   return members;

@@ -21,8 +21,12 @@ inline bool operator==(const FlatMember& a, const FlatMember& b) {
   return a.path == b.path && a.value == b.value;
 }
 
+// Whether a list has an entry of its own before its items: its length.
+enum class ListLengths { kLeftOut, kIncluded };
+
 // Returns all members of the descriptor in declaration order, lists and their objects taken apart.
-std::vector<FlatMember> FlatMembers(const BubbleDrawDescriptor& descriptor);
+std::vector<FlatMember> FlatMembers(const BubbleDrawDescriptor& descriptor,
+                                    ListLengths lengths = ListLengths::kLeftOut);
 
 // Whether the value is zero, false or empty.
 bool IsDefault(const FlatMember& member);

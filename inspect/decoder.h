@@ -1,5 +1,5 @@
-#ifndef KAVRIX_TOOLS_DECODING_H_
-#define KAVRIX_TOOLS_DECODING_H_
+#ifndef KAVRIX_INSPECT_DECODER_H_
+#define KAVRIX_INSPECT_DECODER_H_
 
 #include <memory>
 #include <optional>
@@ -7,11 +7,11 @@
 #include <string_view>
 #include <vector>
 
+#include "inspect/transform_setup.h"
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_transform.h"
-#include "tools/context.h"
 
-namespace kavrix::tools {
+namespace kavrix::inspect {
 
 struct CapturedRecord {
   int level;
@@ -48,6 +48,6 @@ class Decoder {
 // records.
 std::string StyleRecordUsed(const std::string& name);
 
-}  // namespace kavrix::tools
+}  // namespace kavrix::inspect
 
-#endif  // KAVRIX_TOOLS_DECODING_H_
+#endif  // KAVRIX_INSPECT_DECODER_H_

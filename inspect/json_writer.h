@@ -1,5 +1,5 @@
-#ifndef KAVRIX_TOOLS_JSON_WRITER_H_
-#define KAVRIX_TOOLS_JSON_WRITER_H_
+#ifndef KAVRIX_INSPECT_JSON_WRITER_H_
+#define KAVRIX_INSPECT_JSON_WRITER_H_
 
 #include <cstddef>
 #include <cstdint>
@@ -8,7 +8,7 @@
 
 #include "util/text_buffer.h"
 
-namespace kavrix::tools {
+namespace kavrix::inspect {
 
 // JSON text, written as it comes. Texts may hold any bytes: what is not UTF-8 becomes U+FFFD.
 class JsonWriter {
@@ -58,6 +58,6 @@ class JsonWriter {
   bool needs_comma_ = false;  // before the next value or key
 };
 
-}  // namespace kavrix::tools
+}  // namespace kavrix::inspect
 
-#endif  // KAVRIX_TOOLS_JSON_WRITER_H_
+#endif  // KAVRIX_INSPECT_JSON_WRITER_H_

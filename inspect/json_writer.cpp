@@ -1,4 +1,4 @@
-#include "tools/json_writer.h"
+#include "inspect/json_writer.h"
 
 #include <cmath>
 #include <cstring>
@@ -6,7 +6,7 @@
 #include "util/eight_bytes.h"
 #include "util/utf8.h"
 
-namespace kavrix::tools {
+namespace kavrix::inspect {
 namespace {
 
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";  // U+FFFD
@@ -93,4 +93,4 @@ std::string JsonWriter::TakeLine() {
   return text_.Take();
 }
 
-}  // namespace kavrix::tools
+}  // namespace kavrix::inspect

@@ -1,4 +1,4 @@
-#include "tools/json_writer.h"
+#include "inspect/json_writer.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 
 #include "util/utf8.h"
 
-namespace kavrix::tools {
+namespace kavrix::inspect {
 namespace {
 
 std::string LineOf(std::string_view text) {
@@ -89,4 +89,4 @@ TEST(JsonWriterTest, RealsAreShortestAndReadBackToTheSameFloat) {
 }
 
 }  // namespace
-}  // namespace kavrix::tools
+}  // namespace kavrix::inspect

@@ -1,11 +1,11 @@
-#include "tools/decoding.h"
+#include "inspect/decoder.h"
 
 #include <exception>
 #include <utility>
 
 #include "util/tagged_log.h"
 
-namespace kavrix::tools {
+namespace kavrix::inspect {
 namespace {
 
 // Where the records of this thread's decode go; null: nowhere.
@@ -79,4 +79,4 @@ std::string StyleRecordUsed(const std::string& name) {
   return descriptor != nullptr ? descriptor->style_name : "";
 }
 
-}  // namespace kavrix::tools
+}  // namespace kavrix::inspect

@@ -1,8 +1,8 @@
-#include "tools/json_output.h"
+#include "inspect/decoded_json.h"
 
-#include "tools/json_writer.h"
+#include "inspect/json_writer.h"
 
-namespace kavrix::tools {
+namespace kavrix::inspect {
 namespace {
 
 class JsonMembers : public MemberVisitor {
@@ -77,4 +77,4 @@ std::string ToJsonLine(const Decoded& decoded) {
   return json.TakeLine();
 }
 
-}  // namespace kavrix::tools
+}  // namespace kavrix::inspect
