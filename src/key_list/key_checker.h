@@ -78,6 +78,11 @@ class KeyChecker {
   void TrueWhenZero(std::size_t, const char* name, bool& flag) {
     if (JsonUtil::Find(object_, name) != nullptr) TrueWhenZero(name, flag);
   }
+  void TrueWhenOne(std::size_t, const char* name, bool& flag) { TrueWhenOne(name, flag); }
+  void TrueWhenThere(std::size_t, const char* name, bool& flag) { TrueWhenOne(name, flag); }
+  void TextAfterBar(std::size_t, const char* name, const std::string&, std::string& rest) {
+    Text(name, rest);
+  }
 
   // Throws KeyError for the first member of the object that no verb read.
   void RequireAllRead() const;

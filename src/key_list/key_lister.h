@@ -76,6 +76,18 @@ class KeyLister {
   void TrueWhenZero(std::size_t, const char* name, Flag& flag) {
     TrueWhenZero(name, flag);
   }
+  template <class Flag>
+  void TrueWhenOne(std::size_t, const char* name, Flag& flag) {
+    TrueWhenOne(name, flag);
+  }
+  template <class Flag>
+  void TrueWhenThere(std::size_t, const char* name, Flag& flag) {
+    TrueWhenOne(name, flag);
+  }
+  template <class Member>
+  void TextAfterBar(std::size_t, const char* name, Member&, Member& rest) {
+    Text(name, rest);
+  }
 
  private:
   std::vector<KeyInfo> keys_;

@@ -112,7 +112,7 @@ bool ReadJsonObject(std::string_view text, List list) {
 // convert leaves its member unchanged.
 class FieldReader {
  public:
-  explicit FieldReader(const std::string_view* fields) : fields_(fields) {}
+  FieldReader(const std::string_view* fields, std::size_t count) : fields_(fields), count_(count) {}
 
   void Text(std::size_t index, const char*, std::string& text) { text = fields_[index]; }
 
@@ -134,8 +134,26 @@ class FieldReader {
     if (ReadInt(fields_[index], value)) flag = value == 0;
   }
 
+  // True when the field is exactly "1".
+  void TrueWhenOne(std::size_t index, const char*, bool& flag) { flag = fields_[index] == "1"; }
+
+  // Whatever the field holds. Without the field the flag stays as it is.
+  void TrueWhenThere(std::size_t index, const char*, bool& flag) {
+    if (index < count_) flag = true;
+  }
+
+  // Moves what follows the last "|" of `text`, which was read from the field, to `rest`. Without a "|" both
+  // stay as they are.
+  static void TextAfterBar(std::size_t, const char*, std::string& text, std::string& rest) {
+    const std::size_t bar = text.rfind('|');
+    if (bar == std::string::npos) return;
+    rest = text.substr(bar + 1);
+    text.erase(bar);
+  }
+
  private:
   const std::string_view* fields_;
+  std::size_t count_;  // at least as many as have verbs that need their field
 };
 
 }  // namespace kavrix

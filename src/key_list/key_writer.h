@@ -78,6 +78,15 @@ class KeyWriter {
     SetField(index, name, flag ? "0" : "1");
     TrueWhenZero(name, flag);
   }
+  void TrueWhenOne(std::size_t index, const char* name, const bool& flag) {
+    SetField(index, name, flag ? "1" : "0");
+    TrueWhenOne(name, flag);
+  }
+  // The kind writes these two into its fields.
+  void TrueWhenThere(std::size_t, const char* name, const bool& flag) { TrueWhenOne(name, flag); }
+  void TextAfterBar(std::size_t, const char* name, const std::string&, const std::string& rest) {
+    Text(name, rest);
+  }
 
   // Returns the JSON object: the members in the order of the list, without those that hold their defaults and
   // without the key `left_out`.

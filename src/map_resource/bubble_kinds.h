@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "key_list/key_lister.h"
+#include "key_list/key_tracer.h"
 #include "map_resource/bubble_markers.h"
 
 namespace kavrix {
@@ -37,6 +38,9 @@ struct NameCodec {
   // that are not UTF-8 and, unless the way is kWholeName, std::out_of_range for names shorter than the
   // prefix.
   std::optional<std::string> (*read_fields)(const std::string& name);
+  // Notes what reading the name touches. False when its payload does not parse. Throws std::out_of_range as
+  // read_fields does.
+  bool (*trace)(const std::string& name, NameTrace& trace);
 };
 
 // Describes the names of a kind, for tools and documents.

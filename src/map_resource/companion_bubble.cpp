@@ -35,11 +35,12 @@ struct CompanionFormat : JsonAndDirectionFormat<CompanionFormat, CompanionBubble
     keys.Integer("scene", companion.scene);
     keys.Integer("scene_", companion.BubbleDrawDescriptor::scene);
   }
-  static bool Read(std::string_view payload, CompanionBubbleDrawDescriptor& companion) {
-    const auto parts = SplitFields<2>(payload, '@');
-    if (parts.count != 2) return true;
-    if (!ReadJsonObject(parts.at[0], [&](auto& keys) { List(keys, companion); })) return false;
-    ReadDirectionTail(parts.at[1], companion);
+  template <class Reading = Decoding>
+  static bool Read(std::string_view payload, CompanionBubbleDrawDescriptor& companion, Reading reading = {}) {
+    Fields<2> parts;
+    if (!reading.Split(payload, '@', parts)) return true;
+    if (!reading.ReadObject(parts.at[0], [&](auto& keys) { List(keys, companion); })) return false;
+    reading.ReadDirectionTail(parts.at[1], companion);
     return true;
   }
 };

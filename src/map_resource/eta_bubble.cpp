@@ -18,14 +18,7 @@ using logging::LogLevel;
 
 namespace {
 
-void SplitSubText(DestNameEtaDrawDescriptor& eta) {
-  const std::size_t bar = eta.content.rfind('|');
-  if (bar == std::string::npos) return;
-  eta.sub_text = eta.content.substr(bar + 1);
-  eta.content.erase(bar);
-}
-
-// Undoes SplitSubText. Content that holds a "|" gets another one after it, even when `sub_text` is empty.
+// Undoes TextAfterBar. Content that holds a "|" gets another one after it, even when `sub_text` is empty.
 std::string WithSubText(const DestNameEtaDrawDescriptor& eta) {
   const bool needs_bar = !eta.sub_text.empty() || eta.content.find('|') != std::string::npos;
   return needs_bar ? eta.content + "|" + eta.sub_text : eta.content;
@@ -38,16 +31,7 @@ struct EtaFormat : FieldsFormat<EtaFormat, DestNameEtaDrawDescriptor, 4> {
     fields.Text(0, "content", eta.content);
     fields.TrueWhenZero(1, "mode", eta.mode_flag);
     fields.Integer(3, "scene", eta.scene);
-  }
-  template <class Keys, class Eta>
-  static void ListAll(Keys& keys, Eta& eta) {
-    List(keys, eta);
-    keys.Text("sub_text", eta.sub_text);
-    keys.Integer("direction", eta.direction);
-  }
-  static void Read(std::string_view payload, DestNameEtaDrawDescriptor& eta) {
-    FieldsFormat::Read(payload, eta);
-    SplitSubText(eta);
+    fields.TextAfterBar(0, "sub_text", eta.content, eta.sub_text);
   }
 };
 

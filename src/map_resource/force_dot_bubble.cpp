@@ -36,7 +36,7 @@ void MapResourceTransform::ParseForceDotBubbleResourceName(const std::string& re
   const auto log_payload = [&] {
     KAVRIX_LOG_IN(function, LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, payload);
   };
-  if (!ForceDotFormat::Read(payload, *bubble, log_payload)) {
+  if (!ForceDotFormat::Read(payload, *bubble, Decoding(), log_payload)) {
     KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, "parse json failed: " << payload);
     return;
   }

@@ -36,7 +36,7 @@ void MapResourceTransform::ParseForcePollBubbleResourceName(const std::string& r
   const auto log_payload = [&] {
     KAVRIX_LOG_IN(function, LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, payload);
   };
-  if (!ForcePollFormat::Read(payload, *bubble, log_payload)) {
+  if (!ForcePollFormat::Read(payload, *bubble, Decoding(), log_payload)) {
     KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, "parse json failed: " << payload);
     return;
   }

@@ -22,22 +22,12 @@ constexpr std::uint16_t kKindCode = 12;
 
 struct HdLongSolidFormat : FieldsFormat<HdLongSolidFormat, HDLongSolidBubbleDrawDescriptor, 3> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kHdLongSolid);
+  static constexpr std::size_t kLeastFields = 2;
   template <class Fields, class Descriptor>
   static void List(Fields& fields, Descriptor& bubble) {
     fields.Text(0, "content", bubble.content);
     fields.TrueWhenZero(1, "mode", bubble.mode_flag);
-  }
-  template <class Keys, class Descriptor>
-  static void ListAll(Keys& keys, Descriptor& bubble) {
-    List(keys, bubble);
-    keys.TrueWhenOne("force", bubble.is_force);
-    keys.Integer("direction", bubble.direction);
-  }
-  static void ReadHead(const Head& fields, HDLongSolidBubbleDrawDescriptor& bubble) {
-    if (fields.count < 2) return;
-    FieldReader reader(fields.at.data());
-    List(reader, bubble);
-    if (fields.count > 2) bubble.is_force = true;
+    fields.TrueWhenThere(2, "force", bubble.is_force);
   }
 };
 

@@ -45,7 +45,7 @@ void MapResourceTransform::ParseLightCountdownBubbleResourceName(const std::stri
     KAVRIX_LOG_IN(function, LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kFailure,
                   "parse json failed: " << json);
   };
-  LightCountdownFormat::Read(LightCountdownFormat::PayloadOf(resource_name), *light, log_failure);
+  LightCountdownFormat::Read(LightCountdownFormat::PayloadOf(resource_name), *light, Decoding(), log_failure);
   KAVRIX_LOG(LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kRoutine, *light);
 }
 

@@ -26,26 +26,9 @@ struct LightWaitFormat : FieldsFormat<LightWaitFormat, LightWaitBubbleDrawDescri
     fields.Text(0, "content", bubble.content);
     fields.TrueWhenZero(1, "mode", bubble.mode_flag);
     fields.Integer(2, "scene", bubble.scene);
-  }
-  template <class Keys, class Descriptor>
-  static void ListAll(Keys& keys, Descriptor& bubble) {
-    List(keys, bubble);
-    keys.TrueWhenOne("force", bubble.is_force);
-    keys.Integer("direction", bubble.direction);
-  }
-  static void ReadHead(const Head& fields, LightWaitBubbleDrawDescriptor& bubble) {
-    if (fields.count != 4) return;
-    FieldsFormat::ReadHead(fields, bubble);
-    bubble.is_force = fields.at[3] == "1";
+    fields.TrueWhenOne(3, "force", bubble.is_force);
   }
 };
-
-Payload PayloadFor(const LightWaitFormat&, const KeyWriter& written,
-                   const LightWaitBubbleDrawDescriptor& bubble) {
-  Payload payload = FieldsPayload(written, 3, LightWaitFormat::kMarker);
-  payload.text += bubble.is_force ? "_1" : "_0";
-  return WithDirection(std::move(payload), bubble.direction);
-}
 
 }  // namespace
 

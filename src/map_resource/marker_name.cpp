@@ -52,7 +52,7 @@ void MapResourceTransform::GetMarkerDrawDescriptor(const std::string& resource_n
                                                    std::shared_ptr<BubbleDrawDescriptor>& out) {
   const auto marker = std::make_shared<MarkerDrawDescriptor>();
   const auto publish = [&] { out = marker; };
-  if (!MarkerFormat::Read(MarkerFormat::PayloadOf(resource_name), *marker, publish)) {
+  if (!MarkerFormat::Read(MarkerFormat::PayloadOf(resource_name), *marker, Decoding(), publish)) {
     KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure,
                "parse json failed: " << resource_name);
     return;

@@ -52,7 +52,8 @@ void MapResourceTransform::ParseMultiLightCountdownBubbleResourceName(
     KAVRIX_LOG_IN(function, LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kFailure,
                   "parse json failed: " << json);
   };
-  MultiLightCountdownFormat::Read(MultiLightCountdownFormat::PayloadOf(resource_name), *lights, log_failure);
+  MultiLightCountdownFormat::Read(MultiLightCountdownFormat::PayloadOf(resource_name), *lights, Decoding(),
+                                  log_failure);
   KAVRIX_LOG(LogTagKavrixMapLayerMgr_LightCountdownTimer, LogLevel::kRoutine, *lights);
 }
 

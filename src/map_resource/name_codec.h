@@ -11,6 +11,7 @@
 #include "key_list/key_writer.h"
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/name_format.h"
+#include "map_resource/name_trace.h"
 
 // Encodes the names of all kinds by running their formats backwards. A kind overloads PayloadFor for its
 // format if it writes the payload in its own way, and Canonical if some values make no difference to the
@@ -122,7 +123,7 @@ void ListKeys(KeyLister& keys) {
 }
 
 template <class Format>
-constexpr NameCodec kCodec = {ListKeys<Format>, EncodeFields<Format>, ReadFields<Format>};
+constexpr NameCodec kCodec = {ListKeys<Format>, EncodeFields<Format>, ReadFields<Format>, TraceName<Format>};
 
 template <class Format>
 constexpr BubbleKindInfo MakeInfo(BubbleKind kind, std::optional<std::uint16_t> kind_code, PayloadWay way,

@@ -1,6 +1,7 @@
 #ifndef KAVRIX_MAP_RESOURCE_NAME_FORMAT_H_
 #define KAVRIX_MAP_RESOURCE_NAME_FORMAT_H_
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -23,6 +24,44 @@
 // fits its names, which takes the format as `Self` and gives all but kMarker and List.
 namespace kavrix {
 
+// How a format reads. The decoder reads as below; Tracing of name_trace.h notes what is read from where.
+struct Decoding {
+  // Calls `list` with a reader of the JSON object in `text`; false when `text` is not one.
+  template <class List>
+  static bool ReadObject(std::string_view text, List list) {
+    return ReadJsonObject(text, list);
+  }
+
+  // Cuts `text` into fields. False when they are fewer than `least` or, unless `least` is fewer than N, more
+  // than N.
+  template <std::size_t N>
+  static bool Split(std::string_view text, char separator, Fields<N>& fields, std::size_t least = N) {
+    fields = SplitFields<N>(text, separator);
+    return least == N ? fields.count == N : fields.count >= least;
+  }
+
+  template <std::size_t N, class List>
+  static void ReadFields(const Fields<N>& fields, List list) {
+    FieldReader reader(fields.at.data(), std::min(fields.count, N));
+    list(reader);
+  }
+
+  static void ReadDirection(std::string_view text, BubbleDrawDescriptor& descriptor) {
+    kavrix::ReadDirection(text, descriptor);
+  }
+  static void ReadDirectionTail(std::string_view tail, BubbleDrawDescriptor& descriptor) {
+    kavrix::ReadDirectionTail(tail, descriptor);
+  }
+};
+
+// Reads the direction from what follows "@": the integer, a dot and the marker's word, which is not compared.
+// A tail of another shape leaves the direction unchanged.
+template <class Reading>
+void ReadDirectionTail(std::string_view tail, BubbleDrawDescriptor& descriptor, Reading reading) {
+  Fields<2> fields;
+  if (reading.Split(tail, '.', fields)) reading.ReadDirection(fields.at[0], descriptor);
+}
+
 // For callers of Read that have nothing to do there.
 struct NoAction {
   template <class... Arguments>
@@ -41,15 +80,17 @@ struct JsonFormat {
     return StripPrefixAndMarker(name, Self::kMarker);
   }
   // False when the payload is not a JSON object. Calls `when_parsed` before it reads the first key.
-  template <class Action = NoAction>
-  static bool Read(std::string_view payload, Carried& carried, Action when_parsed = {}) {
-    return ReadJsonObject(payload, [&](auto& keys) {
+  template <class Reading = Decoding, class Action = NoAction>
+  static bool Read(std::string_view payload, Carried& carried, Reading reading = {},
+                   Action when_parsed = {}) {
+    return reading.ReadObject(payload, [&](auto& keys) {
       when_parsed();
       Self::List(keys, carried);
     });
   }
-  static bool ReadName(const std::string& name, Carried& carried) {
-    return Self::Read(Self::PayloadOf(name), carried);
+  template <class Reading = Decoding>
+  static bool ReadName(const std::string& name, Carried& carried, Reading reading = {}) {
+    return Self::Read(Self::PayloadOf(name), carried, reading);
   }
 };
 
@@ -57,8 +98,9 @@ struct JsonFormat {
 template <class Self, class CarriedType>
 struct WholeNameFormat : JsonFormat<Self, CarriedType> {
   static std::string_view PayloadOf(const std::string& name) { return FindJsonObject(name); }
-  static bool ReadName(const std::string& name, CarriedType& carried) {
-    Self::Read(PayloadOf(name), carried);
+  template <class Reading = Decoding>
+  static bool ReadName(const std::string& name, CarriedType& carried, Reading reading = {}) {
+    Self::Read(PayloadOf(name), carried, reading);
     return true;
   }
 };
@@ -75,17 +117,19 @@ struct JsonAndDirectionFormat {
   static std::string_view PayloadOf(const std::string& name) { return StripPrefix(name); }
   // False when the part before "@" is not a JSON object: passes it to `on_broken_json`, and reads the
   // direction after that all the same. A payload that is not two parts sets nothing and is not a failure.
-  template <class Action = NoAction>
-  static bool Read(std::string_view payload, Carried& carried, Action on_broken_json = {}) {
-    const auto parts = SplitFields<2>(payload, '@');
-    if (parts.count != 2) return true;
-    const bool parsed = ReadJsonObject(parts.at[0], [&](auto& keys) { Self::List(keys, carried); });
+  template <class Reading = Decoding, class Action = NoAction>
+  static bool Read(std::string_view payload, Carried& carried, Reading reading = {},
+                   Action on_broken_json = {}) {
+    Fields<2> parts;
+    if (!reading.Split(payload, '@', parts)) return true;
+    const bool parsed = reading.ReadObject(parts.at[0], [&](auto& keys) { Self::List(keys, carried); });
     if (!parsed) on_broken_json(parts.at[0]);
-    ReadDirectionTail(parts.at[1], carried);
+    reading.ReadDirectionTail(parts.at[1], carried);
     return parsed;
   }
-  static bool ReadName(const std::string& name, Carried& carried) {
-    return Self::Read(Self::PayloadOf(name), carried);
+  template <class Reading = Decoding>
+  static bool ReadName(const std::string& name, Carried& carried, Reading reading = {}) {
+    return Self::Read(Self::PayloadOf(name), carried, reading);
   }
 };
 
@@ -94,27 +138,27 @@ struct JsonAndDirectionFormat {
 template <class Self, class CarriedType, std::size_t FieldCount>
 struct FieldsFormat {
   using Carried = CarriedType;
-  using Head = Fields<FieldCount>;
   static constexpr std::size_t kFieldCount = FieldCount;
+  static constexpr std::size_t kLeastFields = FieldCount;  // fewer: some may be missing, and more may follow
   template <class Keys, class AnyCarried>
   static void ListAll(Keys& keys, AnyCarried& carried) {
     Self::List(keys, carried);
     keys.Integer("direction", carried.direction);
   }
   static std::string_view PayloadOf(const std::string& name) { return StripPrefix(name); }
-  static void Read(std::string_view payload, Carried& carried) {
-    const auto parts = SplitFields<2>(payload, '@');
-    if (parts.count != 2) return;
-    Self::ReadHead(SplitFields<FieldCount>(parts.at[0], '_'), carried);
-    ReadDirectionTail(parts.at[1], carried);
+  template <class Reading = Decoding>
+  static void Read(std::string_view payload, Carried& carried, Reading reading = {}) {
+    Fields<2> parts;
+    if (!reading.Split(payload, '@', parts)) return;
+    Fields<FieldCount> head;
+    if (reading.Split(parts.at[0], '_', head, Self::kLeastFields)) {
+      reading.ReadFields(head, [&](auto& fields) { Self::List(fields, carried); });
+    }
+    reading.ReadDirectionTail(parts.at[1], carried);
   }
-  static void ReadHead(const Head& fields, Carried& carried) {
-    if (fields.count != FieldCount) return;
-    FieldReader reader(fields.at.data());
-    Self::List(reader, carried);
-  }
-  static bool ReadName(const std::string& name, Carried& carried) {
-    Self::Read(Self::PayloadOf(name), carried);
+  template <class Reading = Decoding>
+  static bool ReadName(const std::string& name, Carried& carried, Reading reading = {}) {
+    Self::Read(Self::PayloadOf(name), carried, reading);
     return true;
   }
 };

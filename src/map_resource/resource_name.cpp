@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "map_resource/map_resource_manager.h"
+#include "map_resource/name_format.h"
 #include "util/fields.h"
 
 namespace kavrix {
@@ -32,9 +33,7 @@ void ReadDirection(std::string_view text, BubbleDrawDescriptor& descriptor) {
 }
 
 void ReadDirectionTail(std::string_view tail, BubbleDrawDescriptor& descriptor) {
-  const auto fields = SplitFields<2>(tail, '.');
-  if (fields.count != 2) return;
-  ReadDirection(fields.at[0], descriptor);
+  ReadDirectionTail(tail, descriptor, Decoding());
 }
 
 std::string_view FindJsonObject(std::string_view resource_name) {

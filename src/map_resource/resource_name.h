@@ -41,8 +41,7 @@ void PublishInitialised(const std::string& resource_name, std::shared_ptr<Bubble
 // Reads the direction from a decimal integer, low 16 bits; anything else leaves it unchanged.
 void ReadDirection(std::string_view text, BubbleDrawDescriptor& descriptor);
 
-// Reads the direction from what follows "@": the integer, a dot and the marker's word, which is not compared.
-// A tail of another shape leaves the direction unchanged.
+// Reads the direction from what follows "@", as ReadDirectionTail of name_format.h does for the decoder.
 void ReadDirectionTail(std::string_view tail, BubbleDrawDescriptor& descriptor);
 
 // Returns the JSON object of a whole resource name: from the first "{" after the prefix, if the name has the

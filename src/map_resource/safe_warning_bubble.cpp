@@ -30,11 +30,12 @@ struct SafeWarningFormat : JsonFormat<SafeWarningFormat, SafeWarningBubbleDrawDe
     keys.Integer("distance", bubble.distance);
   }
   // False when the payload is not two parts.
-  static bool Read(std::string_view payload, SafeWarningBubbleDrawDescriptor& warning) {
-    const auto parts = SplitFields<2>(payload, '@');
-    if (parts.count != 2) return false;
-    warning.InitWithJson(std::string(parts.at[0]));
-    ReadDirection(parts.at[1], warning);
+  template <class Reading = Decoding>
+  static bool Read(std::string_view payload, SafeWarningBubbleDrawDescriptor& warning, Reading reading = {}) {
+    Fields<2> parts;
+    if (!reading.Split(payload, '@', parts)) return false;
+    reading.ReadObject(parts.at[0], [&](auto& keys) { List(keys, warning); });
+    reading.ReadDirection(parts.at[1], warning);
     return true;
   }
 };

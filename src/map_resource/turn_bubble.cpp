@@ -34,8 +34,9 @@ struct TurnFormat : JsonFormat<TurnFormat, TurnArrowBubbleDrawDescriptor> {
     keys.Integer("distance", turn.distance);
   }
   // A broken payload is no failure.
-  static bool ReadName(const std::string& name, TurnArrowBubbleDrawDescriptor& turn) {
-    Read(PayloadOf(name), turn);
+  template <class Reading = Decoding>
+  static bool ReadName(const std::string& name, TurnArrowBubbleDrawDescriptor& turn, Reading reading = {}) {
+    Read(PayloadOf(name), turn, reading);
     return true;
   }
 };

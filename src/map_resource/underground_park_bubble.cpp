@@ -41,7 +41,7 @@ void MapResourceTransform::ParseUndergroundParkBubbleResourceName(
   const auto log_payload = [&] {
     KAVRIX_LOG_IN(function, LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, payload);
   };
-  if (!UndergroundParkFormat::Read(payload, *bubble, log_payload)) {
+  if (!UndergroundParkFormat::Read(payload, *bubble, Decoding(), log_payload)) {
     KAVRIX_LOG(LogTagKavrixMapLayerMgr_BubbleTraffic, LogLevel::kFailure, "parse json failed: " << payload);
   }
 }

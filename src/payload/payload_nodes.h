@@ -23,6 +23,9 @@ class PayloadNodes {
 
   const NodeList& nodes() const { return nodes_; }
 
+  // Whether the scanner read the payload, so that every node has its bytes.
+  bool IsPlain() const { return !tree_; }
+
  private:
   void List(const Json::Value& root);
   void ListValue(const Json::Value& value, std::uint32_t parent, std::string_view key);

@@ -8,11 +8,15 @@
 #include <new>
 #include <utility>
 
+#include "util/muted_logs.h"
+
 namespace kavrix::logging {
 
 std::atomic<std::uint32_t> kavrix_log_instance_id_{0};
 
 namespace {
+
+thread_local bool are_muted = false;  // see MutedLogs
 
 using InstancePointer = std::shared_ptr<const LoggerInstance>;
 
@@ -36,10 +40,21 @@ class InstanceTable {
   }
 
   InstancePointer Find(std::uint32_t id) {
-    if (is_empty_) return nullptr;
+    if (is_empty_ || are_muted) return nullptr;
     const std::lock_guard<std::mutex> lock(mutex_);
     const auto found = instances_.find(id);
     return found == instances_.end() ? nullptr : found->second;
+  }
+
+  // Whether the instance takes records of the level; in `filtering` it is returned only if its filter must be
+  // asked too: the count of its owners is shared by all threads that log.
+  bool Takes(std::uint32_t id, LogLevel level, InstancePointer& filtering) {
+    if (is_empty_ || are_muted) return false;
+    const std::lock_guard<std::mutex> lock(mutex_);
+    const auto found = instances_.find(id);
+    if (found == instances_.end() || level < found->second->least_level) return false;
+    if (found->second->tag_filter) filtering = found->second;
+    return true;
   }
 
  private:
@@ -58,6 +73,10 @@ InstanceTable& Instances() {
 
 }  // namespace
 
+MutedLogs::MutedLogs() : were_muted_(are_muted) { are_muted = true; }
+
+MutedLogs::~MutedLogs() { are_muted = were_muted_; }
+
 void SetLoggerInstance(std::uint32_t instance_id, LoggerInstance instance) {
   if (instance.sink == nullptr) return Instances().Remove(instance_id);
   Instances().Set(instance_id, std::make_shared<const LoggerInstance>(std::move(instance)));
@@ -68,9 +87,9 @@ LogSink::~LogSink() = default;
 
 bool Logger::TestLogLevelAndTag(std::uint32_t instance_id, LogLevel level, const std::string& tag) noexcept {
   try {
-    const InstancePointer instance = Instances().Find(instance_id);
-    if (instance == nullptr || level < instance->least_level) return false;
-    return !instance->tag_filter || instance->tag_filter(tag);
+    InstancePointer filtering;
+    if (!Instances().Takes(instance_id, level, filtering)) return false;
+    return filtering == nullptr || filtering->tag_filter(tag);
   } catch (...) {
     return false;
   }

@@ -150,7 +150,7 @@ TEST_F(JsonKeyReaderTest, ListKeysThatHoldNoArrayAppendNothing) {
 
 TEST(FieldReaderTest, TextIsTakenAsItStands) {
   const std::string_view fields[] = {" a ", ""};
-  FieldReader reader(fields);
+  FieldReader reader(fields, std::size(fields));
   std::string text = "current";
   reader.Text(0, "text", text);
   EXPECT_EQ(text, " a ");
@@ -160,7 +160,7 @@ TEST(FieldReaderTest, TextIsTakenAsItStands) {
 
 TEST(FieldReaderTest, IntegerIsNarrowedAndKeptWhereTheFieldDoesNotConvert) {
   const std::string_view fields[] = {"70000", "12a", "", "-1"};
-  FieldReader reader(fields);
+  FieldReader reader(fields, std::size(fields));
   std::int16_t number = 7;
   reader.Integer(1, "number", number);
   reader.Integer(2, "number", number);
@@ -173,7 +173,7 @@ TEST(FieldReaderTest, IntegerIsNarrowedAndKeptWhereTheFieldDoesNotConvert) {
 
 TEST(FieldReaderTest, LeadingIntegerStoresZeroWhereThereAreNoDigits) {
   const std::string_view fields[] = {"12a", "a", "65537"};
-  FieldReader reader(fields);
+  FieldReader reader(fields, std::size(fields));
   std::int16_t number = 7;
   reader.LeadingInteger(0, "number", number);
   EXPECT_EQ(number, 12);
@@ -185,7 +185,7 @@ TEST(FieldReaderTest, LeadingIntegerStoresZeroWhereThereAreNoDigits) {
 
 TEST(FieldReaderTest, FlagIsKeptWhereTheFieldDoesNotConvert) {
   const std::string_view fields[] = {"0", "1", "", "0a", "00"};
-  FieldReader reader(fields);
+  FieldReader reader(fields, std::size(fields));
   for (const bool current : {false, true}) {
     bool flag = current;
     reader.TrueWhenZero(2, "flag", flag);
