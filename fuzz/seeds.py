@@ -66,6 +66,7 @@ def main():
     names = list(golden_names(root))
     inputs = {
         "names": [name.encode() for name in names],
+        "explain": [name.encode() for name in names],
         "payloads": payload_inputs(names, markers),
         "nodes": node_inputs(root, names),
         "round_trip": payload_inputs(names, markers),

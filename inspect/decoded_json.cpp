@@ -30,8 +30,7 @@ class JsonMembers : public MemberVisitor {
 void WriteDescriptor(JsonWriter& json, const BubbleDrawDescriptor& descriptor) {
   JsonMembers members(json);
   json.BeginObject();
-  json.Key("type");
-  json.Text(descriptor.TypeName());
+  json.Text("type", descriptor.TypeName());
   json.Key("base");
   json.BeginObject();
   descriptor.VisitBaseMembers(members);
@@ -47,12 +46,9 @@ void WriteRecord(JsonWriter& json, const CapturedRecord& record) {
   json.BeginObject();
   json.Key("level");
   json.Integer(record.level);
-  json.Key("tag");
-  json.Text(record.tag);
-  json.Key("function");
-  json.Text(record.function);
-  json.Key("message");
-  json.Text(record.message);
+  json.Text("tag", record.tag);
+  json.Text("function", record.function);
+  json.Text("message", record.message);
   json.EndObject();
 }
 
@@ -61,8 +57,7 @@ void WriteRecord(JsonWriter& json, const CapturedRecord& record) {
 std::string ToJsonLine(const Decoded& decoded) {
   JsonWriter json;
   json.BeginObject();
-  json.Key("resource_name");
-  json.Text(decoded.name);
+  json.Text("resource_name", decoded.name);
   json.Key("kind");
   decoded.kind ? json.Text(MarkerOf(*decoded.kind).substr(1)) : json.Null();
   json.Key("descriptor");

@@ -1,5 +1,6 @@
 #include "inspect/decoder.h"
 
+#include <atomic>
 #include <exception>
 #include <utility>
 
@@ -22,6 +23,13 @@ class CapturingSink : public logging::LogSink {
   }
 };
 
+std::shared_ptr<KavrixContext> CopyOf(const KavrixContext& context) {
+  auto copy = std::make_shared<KavrixContext>(context.context_name);
+  copy->SetBubbleLayerConfig(context.GetBubbleLayerConfigInLock());
+  copy->multi_light_type = context.multi_light_type.load();
+  return copy;
+}
+
 bool TellsOfFailedParse(const CapturedRecord& record, const std::string& head) {
   return record.level == static_cast<int>(logging::LogLevel::kFailure) &&
          record.message.compare(head.size(), 6, "parse ") == 0;
@@ -30,25 +38,32 @@ bool TellsOfFailedParse(const CapturedRecord& record, const std::string& head) {
 }  // namespace
 
 Decoder::Decoder(const TransformSetup& setup, EntryPoint entry_point)
-    : transform_(setup.context),
-      record_head_("[Kavrix][" + setup.context->context_name + "]"),
-      entry_point_(entry_point) {
-  transform_.SetMarkerBubbleConfig(setup.marker_bubble);
+    : record_head_("[Kavrix][" + setup.context->context_name + "]"), entry_point_(entry_point) {
+  for (std::size_t i = 0; i < kTransforms; ++i) {
+    transforms_.emplace_back(CopyOf(*setup.context)).SetMarkerBubbleConfig(setup.marker_bubble);
+  }
   logging::SetLoggerInstance(logging::kavrix_log_instance_id_, {std::make_shared<CapturingSink>(), {}, {}});
 }
 
+MapResourceTransform& Decoder::TransformOfThread() {
+  static std::atomic<std::size_t> threads{0};
+  thread_local const std::size_t number = threads++;
+  return transforms_[number % kTransforms];
+}
+
 Decoded Decoder::Decode(std::string name) {
+  MapResourceTransform& transform = TransformOfThread();
   Decoded decoded;
   decoded.name = std::move(name);
   decoded.records.reserve(kUsualRecords);
   captured_records = &decoded.records;
   try {
     if (entry_point_ == EntryPoint::kMarker) {
-      transform_.GetMarkerDrawDescriptor(decoded.name, decoded.descriptor);
+      transform.GetMarkerDrawDescriptor(decoded.name, decoded.descriptor);
     } else {
       decoded.kind = FindBubbleKind(decoded.name);
       decoded.failed = !decoded.kind;
-      transform_.GetBubbleDrawDescriptor(decoded.name, decoded.descriptor);
+      transform.GetBubbleDrawDescriptor(decoded.name, decoded.descriptor);
     }
   } catch (const std::exception& exception) {
     decoded.exception = exception.what();
@@ -59,24 +74,6 @@ Decoded Decoder::Decode(std::string name) {
     if (TellsOfFailedParse(record, record_head_)) decoded.failed = true;
   }
   return decoded;
-}
-
-std::string StyleRecordUsed(const std::string& name) {
-  BubbleLayerConfigContainer named_after_themselves;
-  ForEachStyleRecord(named_after_themselves, [](const char* member, auto& record) { record.name = member; });
-  const auto context = std::make_shared<KavrixContext>("");
-  context->SetBubbleLayerConfig(std::move(named_after_themselves));
-  MarkerBubbleConfig marker_bubble;
-  marker_bubble.name = "marker_bubble";
-  MapResourceTransform transform(context);
-  transform.SetMarkerBubbleConfig(std::move(marker_bubble));
-  std::shared_ptr<BubbleDrawDescriptor> descriptor;
-  try {
-    transform.GetBubbleDrawDescriptor(name, descriptor);
-  } catch (const std::exception&) {
-    // What was set before the exception stays set.
-  }
-  return descriptor != nullptr ? descriptor->style_name : "";
 }
 
 }  // namespace kavrix::inspect

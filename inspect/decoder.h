@@ -30,7 +30,8 @@ struct Decoded {
   bool failed = false;  // no marker, a record of a failed parse, or an exception
 };
 
-// Decodes names as a client would, with every log record captured. Installs itself as the process's log sink.
+// Decodes names as a client would, with every log record captured, on any number of threads. Installs itself
+// as the process's log sink.
 class Decoder {
  public:
   Decoder(const TransformSetup& setup, EntryPoint entry_point);
@@ -38,15 +39,16 @@ class Decoder {
   Decoded Decode(std::string name);
 
  private:
-  MapResourceTransform transform_;
+  // Threads that decode under one context wait for each other at its lock; there are more of these than most
+  // machines have threads.
+  static constexpr std::size_t kTransforms = 16;
+
+  MapResourceTransform& TransformOfThread();
+
+  std::vector<MapResourceTransform> transforms_;
   std::string record_head_;
   EntryPoint entry_point_;
 };
-
-// The configuration record that a bubble's style came from, by member name; empty when there is none. Found
-// by decoding the name once more under a configuration whose records are named after themselves, without
-// records.
-std::string StyleRecordUsed(const std::string& name);
 
 }  // namespace kavrix::inspect
 

@@ -26,8 +26,17 @@ class JsonWriter {
   // because -0 loses its sign to readers of integers. Null when it is no number.
   void Real(float value);
   void Text(std::string_view text);
+  void Text(std::string_view key, std::string_view text) {
+    Key(key);
+    Text(text);
+  }
 
-  // What was written, as a line.
+  // A value that is JSON already.
+  void Json(std::string_view value) { Raw(value); }
+
+  // What was written; the object is then of no use.
+  std::string Take() { return text_.Take(); }
+  // The same, as a line.
   std::string TakeLine();
 
  private:

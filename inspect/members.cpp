@@ -1,7 +1,7 @@
 #include "inspect/members.h"
 
-#include <algorithm>
 #include <cstddef>
+#include <set>
 
 namespace kavrix::inspect {
 namespace {
@@ -32,10 +32,10 @@ struct ValueWriter {
 std::vector<FlatMember> Members(const BubbleDrawDescriptor& descriptor) {
   const std::vector<FlatMember> all = FlatMembers(descriptor, ListLengths::kIncluded);
   std::vector<FlatMember> members;
+  std::set<std::string> paths;
   for (std::size_t i = 0; i < all.size(); ++i) {
     if (IsLengthOfStyleValues(all, i)) continue;
-    const auto is_hidden = [&](const FlatMember& earlier) { return earlier.path == all[i].path; };
-    const bool hides = std::any_of(members.begin(), members.end(), is_hidden);
+    const bool hides = !paths.insert(all[i].path).second;
     members.push_back({(hides ? "own." : "") + all[i].path, all[i].value});
   }
   return members;

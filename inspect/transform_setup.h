@@ -10,7 +10,7 @@ namespace kavrix::inspect {
 
 // What a configuration gives a transform.
 struct TransformSetup {
-  std::shared_ptr<KavrixContext> context;
+  std::shared_ptr<KavrixContext> context;  // not null
   MarkerBubbleConfig marker_bubble;
 };
 

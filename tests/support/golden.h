@@ -6,7 +6,8 @@
 
 #include "map_resource/bubble_kinds.h"
 
-// A kind's golden file holds the output of "decode --format json" for its names, one line each.
+// A kind's golden file holds the output of "decode --format json" for its names, one line each, and the codes
+// of the problems that "check" finds in them.
 namespace kavrix::test {
 
 // The test runner's --update-goldens sets it.

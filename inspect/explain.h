@@ -1,0 +1,28 @@
+#ifndef KAVRIX_INSPECT_EXPLAIN_H_
+#define KAVRIX_INSPECT_EXPLAIN_H_
+
+#include <string>
+#include <vector>
+
+#include "inspect/explanation.h"
+#include "inspect/transform_setup.h"
+
+namespace kavrix::inspect {
+
+// The context of a setup must not be null.
+
+// Explains a bubble name, as GetBubbleDrawDescriptor reads it: where every member of the descriptor came
+// from, what only steers, what is ignored and what is wrong. Decodes the name several times, and writes no
+// log records. Throws what the standard library throws when memory runs out.
+Explanation ExplainBubbleName(const std::string& resource_name, const TransformSetup& setup);
+
+// The same for a marker name, as GetMarkerDrawDescriptor reads it.
+Explanation ExplainMarkerName(const std::string& resource_name, const TransformSetup& setup);
+
+// Only the problems, for a tenth of the time.
+std::vector<Problem> CheckBubbleName(const std::string& resource_name);
+std::vector<Problem> CheckMarkerName(const std::string& resource_name);
+
+}  // namespace kavrix::inspect
+
+#endif  // KAVRIX_INSPECT_EXPLAIN_H_

@@ -1,0 +1,37 @@
+#ifndef KAVRIX_INSPECT_NAME_PAINT_H_
+#define KAVRIX_INSPECT_NAME_PAINT_H_
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "inspect/explanation.h"
+
+namespace kavrix::inspect {
+
+// Gives every byte of a name to one owner: a member or a steer, the structure, or a reason why it is ignored.
+// Later calls take bytes from earlier ones.
+class NamePaint {
+ public:
+  NamePaint(std::size_t size, std::string reason) : owners_(size, 0), reasons_({std::move(reason)}) {}
+
+  void Ignore(ByteRange bytes, std::string reason);
+  void Structure(ByteRange bytes) { Paint(bytes, kStructure); }
+  void Taken(ByteRange bytes) { Paint(bytes, kTaken); }
+
+  // Writes the structure and what is ignored.
+  void WriteTo(Explanation& explanation) const;
+
+ private:
+  static constexpr int kStructure = -1;
+  static constexpr int kTaken = -2;
+
+  void Paint(ByteRange bytes, int owner);
+
+  std::vector<int> owners_;  // of each byte: one of the above, or the index of a reason
+  std::vector<std::string> reasons_;
+};
+
+}  // namespace kavrix::inspect
+
+#endif  // KAVRIX_INSPECT_NAME_PAINT_H_
