@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <atomic>
 #include <cstdint>
 #include <exception>
 #include <optional>
@@ -30,6 +31,7 @@ class NameSource {
   }
 
   void Interrupt() { input_.Interrupt(); }
+  void SetOnPause(std::function<void()> on_pause) { input_.SetOnPause(std::move(on_pause)); }
 
   // The size of all the names, newlines included; none when it is unknown.
   std::optional<std::uint64_t> Bytes() const {
@@ -55,10 +57,11 @@ class NameSource {
 
 struct Batch {
   std::vector<std::string> names;
+  std::size_t before = 0;  // how many names the batches before it hold
   std::size_t bytes = 0;
   std::size_t failed = 0;
   std::string results;
-  std::vector<std::pair<std::size_t, std::string>> problems;  // each with its place in the batch, from 1
+  std::vector<std::pair<std::size_t, std::string>> problems;  // each with the number of its name
 };
 
 // Enough names to make the hand-over between threads cheap, few enough to keep a batch's results in cache.
@@ -85,20 +88,33 @@ void AddBulkOptions(Command& command, BulkOptions& options) {
   command.Flag("--unbuffered", options.unbuffered, "Write each result as soon as it is ready");
 }
 
-std::size_t WorkInBulk(const BulkOptions& options, const std::function<NameResult(std::string name)>& work) {
+std::size_t WorkInBulk(const BulkOptions& options, const NameWork& work) {
   NameSource source(options);
   const bool unbuffered = options.unbuffered || isatty(STDOUT_FILENO) != 0;
   Output output(unbuffered);
   Progress progress(ShowsProgress(options), source.Bytes());
-  std::size_t done = 0;
   std::size_t failed = 0;
 
-  const auto take = [&](Batch& batch) { return source.Take(unbuffered ? 1 : kMostNames, batch.names); };
+  // What was written while the input pauses is not held back, also when a thread writes it after the pause
+  // began.
+  std::atomic<bool> is_paused{false};
+  source.SetOnPause([&] {
+    is_paused = true;
+    output.Flush();
+  });
+  std::size_t taken = 0;
+  const auto take = [&](Batch& batch) {
+    const bool is_any = source.Take(unbuffered ? 1 : kMostNames, batch.names);
+    is_paused = false;
+    batch.before = taken;
+    taken += batch.names.size();
+    return is_any;
+  };
   const auto work_on = [&](Batch& batch) {
     for (std::size_t i = 0; i < batch.names.size(); ++i) {
       batch.bytes += batch.names[i].size() + 1;
-      const NameResult result = work(std::move(batch.names[i]));
-      if (!result.problem.empty()) batch.problems.emplace_back(i + 1, result.problem);
+      const NameResult result = work(std::move(batch.names[i]), batch.before + i + 1);
+      if (!result.problem.empty()) batch.problems.emplace_back(batch.before + i + 1, result.problem);
       batch.results += result.text;
       batch.failed += result.failed ? 1 : 0;
     }
@@ -106,9 +122,9 @@ std::size_t WorkInBulk(const BulkOptions& options, const std::function<NameResul
   const auto put = [&](const Batch& batch) {
     output.Write(batch.results);
     for (const auto& [place, problem] : batch.problems) {
-      WriteErrorLine(options.what + ' ' + std::to_string(done + place) + ": " + problem);
+      WriteErrorLine(options.what + ' ' + std::to_string(place) + ": " + problem);
     }
-    done += batch.names.size();
+    if (is_paused) output.Flush();
     failed += batch.failed;
     progress.Add(batch.names.size(), batch.failed, batch.bytes);
   };

@@ -17,6 +17,9 @@ struct NameResult {
   std::string problem;  // for standard error, without the name's place; empty when there is none
 };
 
+// Works on a name; `number` is its place among the names, from 1.
+using NameWork = std::function<NameResult(std::string name, std::size_t number)>;
+
 // Calls `work` and returns its text; an exception makes a failed name with its message as the problem.
 NameResult ResultOf(const std::function<std::string()>& work);
 
@@ -35,7 +38,7 @@ void AddBulkOptions(Command& command, BulkOptions& options);
 // error, in the order of the names. A long run shows its progress if standard error is a terminal and neither
 // results nor typed names use it. `work` is called from several threads at once. Returns how many names
 // failed. Throws StreamError and what `work` throws, after everything before it is written.
-std::size_t WorkInBulk(const BulkOptions& options, const std::function<NameResult(std::string name)>& work);
+std::size_t WorkInBulk(const BulkOptions& options, const NameWork& work);
 
 }  // namespace kavrix::tools
 

@@ -7,21 +7,51 @@
 
 #include "tools/error_line.h"
 #include "tools/streams.h"
+#include "tools/suggestion.h"
+#include "util/utf8.h"
 
 namespace kavrix::tools {
 namespace {
 
 constexpr int kUsageTrouble = 2;
 
-int ReportUsageError(const std::exception& error) {
-  WriteErrorLine(error.what());
+int ReportUsageError(const std::exception& error, const std::string& hint = "") {
+  WriteErrorLine(error.what() + hint);
   std::cerr << "Run with --help for more information.\n";
   return kUsageTrouble;
 }
 
+// Returns the command that the first argument calls; null when it is an option. Throws UsageError for a
+// command that there is not.
+const CLI::App* CalledCommand(const CLI::App& app, int argc, const char* const* argv) {
+  if (argc < 2 || argv[1][0] == '-') return nullptr;
+  std::vector<std::string> names;
+  for (const CLI::App* const command : app.get_subcommands([](const CLI::App*) { return true; })) {
+    if (command->get_name() == argv[1]) return command;
+    names.push_back(command->get_name());
+  }
+  throw UsageError(std::string("no command is called \"") + Excerpt(argv[1]) + "\"" +
+                   DidYouMean(argv[1], names));
+}
+
+// Names the option that an argument was probably meant to be.
+std::string HintFor(const CLI::App& command, int argc, const char* const* argv) {
+  std::vector<std::string> options;
+  for (const CLI::Option* const option : command.get_options()) {
+    for (const std::string& name : option->get_lnames()) options.push_back("--" + name);
+  }
+  for (int i = 2; i < argc; ++i) {
+    const std::string_view argument(argv[i]);
+    const std::string option(argument.substr(0, argument.find('=')));
+    const bool is_known = std::find(options.begin(), options.end(), option) != options.end();
+    if (option.compare(0, 2, "--") == 0 && !is_known) return DidYouMean(option, options);
+  }
+  return "";
+}
+
 // Help and version are a success; anything else is a usage error.
-int Report(const CLI::App& app, const CLI::ParseError& error) {
-  if (error.get_exit_code() != 0) return ReportUsageError(error);
+int Report(const CLI::App& app, const CLI::ParseError& error, const std::string& hint) {
+  if (error.get_exit_code() != 0) return ReportUsageError(error, hint);
   std::ostringstream text;
   app.exit(error, text, std::cerr);
   Output output(false);
@@ -66,6 +96,10 @@ void Command::Text(const std::string& option, std::optional<std::string>& value,
   app_.add_option(option, value, help);
 }
 
+void Command::Texts(const std::string& option, std::vector<std::string>& values, const std::string& help) {
+  app_.add_option(option, values, help)->expected(1)->take_all();
+}
+
 void Command::Integer(const std::string& option, int& value, int least, int most, const std::string& help) {
   app_.add_option(option, value, help)->check(CLI::Range(least, most));
 }
@@ -93,11 +127,13 @@ int RunCommandLine(const std::vector<CommandDescription>& commands, int argc, co
     subcommand->callback([&called, run] { called = run; });
     UnmarkNames(*subcommand);
   }
+  const CLI::App* command = nullptr;
   try {
+    command = CalledCommand(app, argc, argv);
     app.parse(MarkNames(argc, argv));
     return called();
   } catch (const CLI::ParseError& error) {
-    return Report(app, error);
+    return Report(app, error, command == nullptr ? "" : HintFor(*command, argc, argv));
   } catch (const UsageError& error) {
     return ReportUsageError(error);
   }

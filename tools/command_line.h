@@ -29,6 +29,8 @@ class Command {
 
   void Arguments(const std::string& name, std::vector<std::string>& values, const std::string& help);
   void Text(const std::string& option, std::optional<std::string>& value, const std::string& help);
+  // An option that may be given more than once.
+  void Texts(const std::string& option, std::vector<std::string>& values, const std::string& help);
   void Integer(const std::string& option, int& value, int least, int most, const std::string& help);
   void Choice(const std::string& option, std::string& value, const std::vector<std::string>& choices,
               const std::string& help);

@@ -1,6 +1,5 @@
 #include "tools/decode_command.h"
 
-#include <cstdlib>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -8,22 +7,17 @@
 #include "inspect/decoded_json.h"
 #include "inspect/decoder.h"
 #include "map_resource/bubble_kinds.h"
-#include "map_resource/map_resource_manager.h"
-#include "tools/bulk.h"
-#include "tools/context.h"
 #include "tools/format_option.h"
+#include "tools/hints.h"
+#include "tools/name_options.h"
 #include "tools/text_output.h"
 
 namespace kavrix::tools {
 namespace {
 
 struct DecodeOptions {
-  BulkOptions bulk;
+  NameOptions names;
   std::string format;
-  std::optional<std::string> config_path;
-  std::optional<std::string> prefix;
-  std::optional<std::string> context_name;
-  bool marker = false;
   bool all_members = false;
   bool fields = false;
 };
@@ -46,24 +40,20 @@ std::string FieldsLine(const std::string& name, EntryPoint entry_point) {
 }
 
 int Run(const DecodeOptions& options) {
-  if (options.prefix) MapResourceManager::kavrix_resource_prefix = options.prefix->c_str();
-  const inspect::TransformSetup setup = options.config_path
-                                            ? LoadConfig(*options.config_path, options.context_name)
-                                            : LoadDefaultConfig(options.context_name);
-  const EntryPoint entry_point = options.marker ? EntryPoint::kMarker : EntryPoint::kBubble;
-  inspect::Decoder decoder(setup, entry_point);
+  const EntryPoint entry_point = options.names.Entry();
+  inspect::Decoder decoder(options.names.Apply(), entry_point);
 
   const bool as_text = options.format == "text";
-  const char* const no_colour = std::getenv("NO_COLOR");
-  const bool colour = ToTerminal() && (no_colour == nullptr || *no_colour == '\0');
-  const TextOptions text_options = {options.all_members, colour};
+  const TextOptions text_options = {options.all_members, ShowsColour()};
 
-  const auto decode = [&](std::string name) -> NameResult {
+  Hints hints(options.names);
+  const auto decode = [&](std::string name, std::size_t) -> NameResult {
     if (options.fields) return ResultOf([&] { return FieldsLine(name, entry_point); });
     const inspect::Decoded decoded = decoder.Decode(std::move(name));
-    return {as_text ? ToText(decoded, text_options) : inspect::ToJsonLine(decoded), decoded.failed, ""};
+    const std::string hint = decoded.failed ? hints.For(decoded.name) : "";
+    return {as_text ? ToText(decoded, text_options) : inspect::ToJsonLine(decoded), decoded.failed, hint};
   };
-  return WorkInBulk(options.bulk, decode) == 0 ? 0 : 1;
+  return WorkInBulk(options.names.bulk, decode) == 0 ? 0 : 1;
 }
 
 }  // namespace
@@ -71,15 +61,8 @@ int Run(const DecodeOptions& options) {
 CommandDescription DecodeCommand() {
   const auto list_options = [](Command& command) -> std::function<int()> {
     const auto options = std::make_shared<DecodeOptions>();
-    command.Arguments("NAME", options->bulk.names,
-                      "Resource names; without any, read one a line from standard input");
+    AddNameOptions(command, options->names);
     AddFormatOption(command, options->format, {"text", "json"});
-    command.Text("--config", options->config_path, "Configuration file instead of the built-in one");
-    command.Text("--prefix", options->prefix, "Prefix of the names instead of kavrix://resource/");
-    command.Text("--context-name", options->context_name, "Context name in the log records");
-    command.Flag("--marker", options->marker, "The names are marker names, not bubble names");
-    AddBulkOptions(command, options->bulk);
-    command.Flag("--null", options->bulk.null_delimited, "Names on standard input end in NUL, not newline");
     command.Flag("--fields", options->fields, "Print the fields of each name as JSON that encode reads");
     command.Flag("--all", options->all_members, "In text format, also show members that hold their defaults");
     command.Footer(

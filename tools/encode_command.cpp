@@ -7,6 +7,7 @@
 #include "map_resource/bubble_kinds.h"
 #include "map_resource/map_resource_manager.h"
 #include "tools/bulk.h"
+#include "tools/suggestion.h"
 #include "util/json_value.h"
 #include "util/strict_json.h"
 #include "util/utf8.h"
@@ -28,15 +29,6 @@ Json::Value ParseJson(const std::string& text) {
   return value;
 }
 
-std::string EncodeKind(const std::string& kind_name, const Json::Value& fields) {
-  const BubbleKindInfo* const info = FindKindInfo(kind_name);
-  if (info == nullptr) {
-    throw std::runtime_error("no kind is called \"" + Excerpt(kind_name) +
-                             "\"; kavrix-resource kinds lists them");
-  }
-  return info->codec.encode_fields(fields);
-}
-
 // Encodes a line such as {"kind": "etaBubble", "fields": {...}}.
 std::string EncodeLine(const std::string& line) {
   const Json::Value bubble = ParseJson(line);
@@ -47,7 +39,7 @@ std::string EncodeLine(const std::string& line) {
     throw std::runtime_error("expected {\"kind\": text, \"fields\": object} and nothing else, found " +
                              Excerpt(JsonUtil::SourceOf(bubble, line)));
   }
-  return EncodeKind(std::string(*kind_name), *fields);
+  return KindCalled(std::string(*kind_name)).codec.encode_fields(*fields);
 }
 
 // Returns the name with `end` after it.
@@ -63,10 +55,11 @@ int Run(const EncodeOptions& options) {
   if (!options.bulk.names.empty() && !options.kind) {
     throw UsageError("FIELDS on the command line need --kind");
   }
+  const BubbleKindInfo* const kind = options.kind ? &KindCalled(*options.kind) : nullptr;
   const char end = options.null_delimited ? '\0' : '\n';
-  const auto encode = [&](const std::string& text) {
+  const auto encode = [&](const std::string& text, std::size_t) {
     return ResultOf([&] {
-      return Ended(options.kind ? EncodeKind(*options.kind, ParseJson(text)) : EncodeLine(text), end);
+      return Ended(kind != nullptr ? kind->codec.encode_fields(ParseJson(text)) : EncodeLine(text), end);
     });
   };
   BulkOptions bulk = options.bulk;

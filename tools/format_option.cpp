@@ -2,9 +2,16 @@
 
 #include <unistd.h>
 
+#include <cstdlib>
+
 namespace kavrix::tools {
 
 bool ToTerminal() { return isatty(STDOUT_FILENO) != 0; }
+
+bool ShowsColour() {
+  const char* const no_colour = std::getenv("NO_COLOR");
+  return ToTerminal() && (no_colour == nullptr || *no_colour == '\0');
+}
 
 void AddFormatOption(Command& command, std::string& format, const std::vector<std::string>& formats) {
   format = ToTerminal() ? "text" : "json";

@@ -11,6 +11,9 @@ namespace kavrix::tools {
 // Returns whether standard output is a terminal.
 bool ToTerminal();
 
+// Returns whether standard output shows colours: it is a terminal, and NO_COLOR is not set.
+bool ShowsColour();
+
 // Adds --format to a command. Its default is "text" on a terminal and "json" elsewhere.
 void AddFormatOption(Command& command, std::string& format, const std::vector<std::string>& formats);
 

@@ -61,10 +61,8 @@ std::string ToJson(const Icon& icon) {
   json.Integer(icon.day_id);
   json.Key("night_id");
   json.Integer(icon.night_id);
-  json.Key("day_description");
-  json.Text(icon.day_description);
-  json.Key("night_description");
-  json.Text(icon.night_description);
+  json.Text("day_description", icon.day_description);
+  json.Text("night_description", icon.night_description);
   json.EndObject();
   return json.TakeLine();
 }

@@ -14,6 +14,7 @@
 #include "tools/format_option.h"
 #include "tools/samples.h"
 #include "tools/streams.h"
+#include "tools/suggestion.h"
 #include "tools/text_output.h"
 
 namespace kavrix::tools {
@@ -93,33 +94,25 @@ std::string ToText(const Kind& kind) {
 std::string ToJson(const Kind& kind) {
   inspect::JsonWriter json;
   json.BeginObject();
-  json.Key("kind");
-  json.Text(kind.info.Name());
-  json.Key("marker");
-  json.Text(kind.info.marker);
+  json.Text("kind", kind.info.Name());
+  json.Text("marker", kind.info.marker);
   json.Key("kind_code");
   kind.info.kind_code ? json.Integer(*kind.info.kind_code) : json.Null();
-  json.Key("descriptor_type");
-  json.Text(kind.info.descriptor_type);
+  json.Text("descriptor_type", kind.info.descriptor_type);
   json.Key("way");
   json.Integer(static_cast<int>(kind.info.way));
-  json.Key("grammar");
-  json.Text(kind.info.grammar);
+  json.Text("grammar", kind.info.grammar);
   json.Key("keys");
   json.BeginArray();
   for (const KeyInfo& key : kind.keys) {
     json.BeginObject();
-    json.Key("key");
-    json.Text(key.key);
-    json.Key("type");
-    json.Text(key.type);
-    json.Key("rule");
-    json.Text(key.rule);
+    json.Text("key", key.key);
+    json.Text("type", key.type);
+    json.Text("rule", key.rule);
     json.EndObject();
   }
   json.EndArray();
-  json.Key("sample");
-  json.Text(kind.sample);
+  json.Text("sample", kind.sample);
   json.EndObject();
   return json.TakeLine();
 }
@@ -150,9 +143,7 @@ int Run(const KindsOptions& options) {
   const std::vector<Kind> kinds = AllKinds();
   for (const std::string& name : options.names) {
     const auto is_called_so = [&](const Kind& kind) { return kind.IsCalled(name); };
-    if (std::none_of(kinds.begin(), kinds.end(), is_called_so)) {
-      throw UsageError("no kind is called \"" + name + "\"; \"kinds\" without a name lists all");
-    }
+    if (std::none_of(kinds.begin(), kinds.end(), is_called_so)) KindCalled(name);
   }
   for (const Kind& kind : kinds) {
     const auto names_it = [&](const std::string& name) { return kind.IsCalled(name); };

@@ -1,18 +1,29 @@
 #include <csignal>
 #include <exception>
+#include <iostream>
 
+#include "tools/check_command.h"
 #include "tools/command_line.h"
+#include "tools/compare_command.h"
 #include "tools/decode_command.h"
 #include "tools/encode_command.h"
 #include "tools/error_line.h"
+#include "tools/explain_command.h"
 #include "tools/icons_command.h"
 #include "tools/kinds_command.h"
+#include "tools/streams.h"
 
 int main(int argc, char** argv) {
   using namespace kavrix::tools;
+  std::cerr.tie(nullptr);  // else a message would flush standard output, and hide what goes wrong there
   (void)std::signal(SIGPIPE, SIG_IGN);  // a closed pipe is then an error of the write
   try {
-    return RunCommandLine({DecodeCommand(), EncodeCommand(), KindsCommand(), IconsCommand()}, argc, argv);
+    return RunCommandLine({DecodeCommand(), ExplainCommand(), CheckCommand(), CompareCommand(),
+                           EncodeCommand(), KindsCommand(), IconsCommand()},
+                          argc, argv);
+  } catch (const ReaderGone&) {
+    constexpr int kStatusOfClosedPipe = 141;  // as if the signal had ended the tool
+    return kStatusOfClosedPipe;
   } catch (const std::exception& error) {
     WriteErrorLine(error.what());
     return 2;

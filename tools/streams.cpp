@@ -18,6 +18,11 @@ constexpr std::size_t kLargestFile = 16 << 20;
   throw StreamError(what + ": " + std::strerror(error));
 }
 
+[[noreturn]] void FailToWrite() {
+  if (errno == EPIPE) throw ReaderGone();
+  Fail("cannot write standard output", errno);
+}
+
 }  // namespace
 
 std::string ReadFile(const std::string& path) {
@@ -43,6 +48,7 @@ std::string ReadFile(const std::string& path) {
 bool NameInput::AwaitInput() const {
   constexpr int kMillisecondsToInterruption = 100;
   pollfd input = {descriptor_, POLLIN, 0};
+  if (on_pause_ && ::poll(&input, 1, 0) == 0) on_pause_();
   while (!interrupted_) {
     const int ready = ::poll(&input, 1, kMillisecondsToInterruption);
     if (ready > 0 || (ready < 0 && errno != EINTR)) return true;
@@ -87,13 +93,12 @@ std::optional<std::uint64_t> NameInput::BytesLeft() {
 }
 
 void Output::Write(std::string_view text) {
-  if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size())
-    Fail("cannot write standard output", errno);
+  if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) FailToWrite();
   if (flush_each_write_) Flush();
 }
 
 void Output::Flush() {
-  if (std::fflush(stdout) != 0) Fail("cannot write standard output", errno);
+  if (std::fflush(stdout) != 0) FailToWrite();
 }
 
 }  // namespace kavrix::tools

@@ -5,10 +5,13 @@
 
 #include <atomic>
 #include <cstdint>
+#include <exception>
+#include <functional>
 #include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace kavrix::tools {
@@ -18,6 +21,9 @@ class StreamError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
+
+// Nobody reads standard output any more, as after "| head". The tool then ends without a word.
+class ReaderGone : public std::exception {};
 
 // All that a regular file or a pipe holds. Throws StreamError, for more than 16 MiB and for other files
 // (devices, folders, sockets) too.
@@ -30,6 +36,9 @@ class NameInput {
  public:
   explicit NameInput(char delimiter, int descriptor = STDIN_FILENO, std::size_t buffer_size = 1 << 16)
       : delimiter_(delimiter), descriptor_(descriptor), buffer_(buffer_size) {}
+
+  // Sets what is called before the input is waited for.
+  void SetOnPause(std::function<void()> on_pause) { on_pause_ = std::move(on_pause); }
 
   // False at the end of the input. Throws StreamError.
   bool Next(std::string& name);
@@ -52,9 +61,11 @@ class NameInput {
   std::vector<char> buffer_;
   std::string_view unread_;
   std::atomic<bool> interrupted_{false};
+  std::function<void()> on_pause_;
 };
 
-// Standard output, buffered; what could not be written throws StreamError, at the latest in Flush.
+// Standard output, buffered; what could not be written throws StreamError or ReaderGone, at the latest in
+// Flush.
 class Output {
  public:
   explicit Output(bool flush_each_write) : flush_each_write_(flush_each_write) {}

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-#include "descriptors/flat_members.h"
+#include "inspect/style_origins.h"
 #include "util/escape.h"
 #include "util/utf8.h"
 
@@ -58,8 +58,16 @@ void AddMembers(const BubbleDrawDescriptor& descriptor, const TextOptions& optio
   std::size_t width = 0;
   for (const FlatMember& member : members) width = std::max(width, member.path.size());
   for (const FlatMember& member : members) {
-    page.Indented(fmt::format("{:<{}}  {}", member.path, width, std::visit(ValueText(), member.value)));
+    page.Indented(fmt::format("{:<{}}  {}", member.path, width, ShownValue(member)));
   }
+}
+
+// The configuration record that the style's name came from; empty when there is none.
+std::string StyleRecordUsed(const inspect::Decoded& decoded) {
+  if (!decoded.kind) return "";
+  const inspect::StyleOrigins origins = inspect::FindStyleOrigins(decoded.name, EntryPoint::kBubble);
+  const auto found = origins.find("style_name");
+  return found == origins.end() ? "" : found->second.record;
 }
 
 void AddRecords(const std::vector<inspect::CapturedRecord>& records, Page& page) {
@@ -80,6 +88,8 @@ void AddRecords(const std::vector<inspect::CapturedRecord>& records, Page& page)
 }
 
 }  // namespace
+
+std::string ShownValue(const FlatMember& member) { return std::visit(ValueText(), member.value); }
 
 std::string Printable(std::string_view text) {
   std::string printable;
@@ -107,7 +117,7 @@ std::string ToText(const inspect::Decoded& decoded, const TextOptions& options) 
   } else {
     page.Line("descriptor", decoded.descriptor->TypeName());
     AddMembers(*decoded.descriptor, options, page);
-    const std::string style = decoded.kind ? inspect::StyleRecordUsed(decoded.name) : "";
+    const std::string style = StyleRecordUsed(decoded);
     page.Line("style", style.empty() ? page.Dim("none from the configuration") : style);
   }
   AddRecords(decoded.records, page);

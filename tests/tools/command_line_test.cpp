@@ -22,6 +22,20 @@ TEST(CommandLineTest, UnknownOptionsAndFormatsAreUsageErrors) {
   EXPECT_EQ(RunTool({"nonsense"}).status, 2);
 }
 
+TEST(CommandLineTest, NearestCommandOptionAndKindAreSuggested) {
+  EXPECT_EQ(RunTool({"decod", "x"}).errors,
+            "kavrix-resource: no command is called \"decod\"; did you mean \"decode\"?\n"
+            "Run with --help for more information.\n");
+  EXPECT_THAT(RunTool({"decode", "--formt", "json"}).errors, HasSubstr("; did you mean \"--format\"?\n"));
+  EXPECT_THAT(RunTool({"decode", "--markr", "x"}).errors, HasSubstr("; did you mean \"--marker\"?\n"));
+  EXPECT_THAT(RunTool({"kinds", "turnBuble"}).errors, HasSubstr("; did you mean \"turnBubble\"?\n"));
+  for (const auto& result :
+       {RunTool({"nonsense"}), RunTool({"decode", "--bogus"}), RunTool({"kinds", "bogus"})}) {
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors.find("did you mean"), std::string::npos) << result.errors;
+  }
+}
+
 TEST(CommandLineTest, HelpAndVersionIntoAFullDiskAreTrouble) {
   for (const std::string what : {"--help", "--version", "decode --help"}) {
     const ToolResult full = RunShell("\"$TOOL\" " + what + " > /dev/full");

@@ -210,14 +210,49 @@ TEST(DecodeCommandTest, MissingOrUnreadableFilesAreTrouble) {
   EXPECT_EQ(folder.errors, "kavrix-resource: cannot read standard input: Is a directory\n");
 }
 
-TEST(DecodeCommandTest, FullDiskAndClosedPipeAreTrouble) {
+TEST(DecodeCommandTest, FullDiskIsTrouble) {
   const ToolResult full = RunShell("\"$TOOL\" decode x > /dev/full");
   EXPECT_EQ(full.status, 2);
-  EXPECT_EQ(full.errors, "kavrix-resource: cannot write standard output: No space left on device\n");
-  const ToolResult closed =
-      RunShell("(yes | head -100000 | \"$TOOL\" decode; echo status $? >&2) | head -1 >/dev/null");
-  EXPECT_THAT(closed.errors,
-              HasSubstr("kavrix-resource: cannot write standard output: Broken pipe\nstatus 2\n"));
+  EXPECT_THAT(full.errors,
+              HasSubstr("kavrix-resource: cannot write standard output: No space left on device\n"));
+}
+
+TEST(DecodeCommandTest, ReaderThatGoesAwayEndsTheToolWithoutAMessage) {
+  for (const std::string command : {"decode", "explain", "check", "decode --jobs 3"}) {
+    const ToolResult closed =
+        RunShell("(yes | head -100000 | \"$TOOL\" " + command + "; echo status $? >&2) | head -1 >/dev/null");
+    EXPECT_EQ(closed.errors, "status 141\n") << command;
+  }
+}
+
+TEST(DecodeCommandTest, OutputIsFlushedWheneverTheInputPauses) {
+  for (const std::string command : {"decode", "decode --jobs 3", "explain", "check"}) {
+    const ToolResult result = RunShell(
+        "mkfifo /tmp/kavrix_pause_$$; (echo a; sleep 3) > /tmp/kavrix_pause_$$ & "
+        "\"$TOOL\" " +
+        command +
+        " < /tmp/kavrix_pause_$$ | (read line; date +%s; cat); date +%s; "
+        "wait; rm /tmp/kavrix_pause_$$");
+    const std::vector<std::string> lines = result.Lines();
+    ASSERT_EQ(lines.size(), 2U);
+    EXPECT_GE(std::stol(lines[1]) - std::stol(lines[0]), 2) << "the result came when the input ended";
+  }
+}
+
+TEST(DecodeCommandTest, NameOnTheCommandLineThatWasMeantAsSomethingElseGetsAHint) {
+  const ToolResult marker = RunTool({"decode", "kavrix://resource/{}.marker"});
+  EXPECT_EQ(marker.status, 1);
+  EXPECT_EQ(marker.errors,
+            "kavrix-resource: name 1: names that end in \".marker\" are marker names, which need --marker\n");
+  const ToolResult file = RunTool({"decode", KAVRIX_SOURCE_DIR "/README.md"});
+  EXPECT_EQ(file.errors,
+            "kavrix-resource: name 1: \"" KAVRIX_SOURCE_DIR
+            "/README.md\" is a file; names are read from one with \"< " KAVRIX_SOURCE_DIR "/README.md\"\n");
+  const ToolResult longer = RunTool({"decode", "x.turnBubble", "y.turnBubble"});
+  EXPECT_EQ(longer.errors,
+            "kavrix-resource: name 1: the name is shorter than the prefix \"kavrix://resource/\"; --prefix "
+            "sets another\n");
+  EXPECT_EQ(RunTool({"decode"}, "kavrix://resource/{}.marker\nx.turnBubble\n").errors, "");
 }
 
 TEST(DecodeCommandTest, UnbufferedResultsComeBeforeTheInputEnds) {

@@ -117,9 +117,9 @@ TEST(EncodeCommandTest, LongNumbersAndTextsGiveShortMessages) {
 TEST(EncodeCommandTest, LongKindsAndKeysAreCutInMessages) {
   const std::string long_text(100000, 'k');
   const std::string cut = std::string(60, 'k') + "...";
-  EXPECT_EQ(
-      RunTool({"encode", "--kind", long_text, "{}"}).errors,
-      "kavrix-resource: fields 1: no kind is called \"" + cut + "\"; kavrix-resource kinds lists them\n");
+  EXPECT_EQ(RunTool({"encode", "--kind", long_text, "{}"}).errors,
+            "kavrix-resource: no kind is called \"" + cut +
+                "\"; kavrix-resource kinds lists them\nRun with --help for more information.\n");
   EXPECT_EQ(RunTool({"encode", "--kind", "turnBubble"}, "{\"" + long_text + "\":1}").errors,
             "kavrix-resource: line 1: turnBubble: " + cut +
                 ": names of this kind do not carry this key; the reader would have ignored it\n");
@@ -156,6 +156,14 @@ TEST(EncodeCommandTest, DecodeFieldsNamesWhatHasNoFields) {
       "kavrix-resource: name 4: trafficBubble: the payload does not parse\n"
       "kavrix-resource: name 5: nameBubble: content: \"\xEF\xBF\xBD\" at byte 0, column 1, is not UTF-8\n");
   EXPECT_EQ(result.output, "{\"kind\":\"turnBubble\",\"fields\":{\"mode\":1}}\n");
+}
+
+TEST(EncodeCommandTest, KindThatThereIsNotIsRefusedOnceBeforeAnyInput) {
+  const ToolResult result = RunTool({"encode", "--kind", "etabubble"}, "{}\n{}\n");
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(result.errors,
+            "kavrix-resource: no kind is called \"etabubble\"; did you mean \"etaBubble\"?\n"
+            "Run with --help for more information.\n");
 }
 
 }  // namespace

@@ -1,0 +1,76 @@
+#include "tools/check_command.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "inspect/explain.h"
+#include "inspect/explained_json.h"
+#include "tools/hints.h"
+#include "tools/name_options.h"
+#include "tools/text_output.h"
+
+namespace kavrix::tools {
+namespace {
+
+struct CheckOptions {
+  NameOptions names;
+  std::string format = "text";
+};
+
+// INPUT:NUMBER:BYTE: severity: message [code]
+std::string ToLines(const std::string& input, std::size_t number,
+                    const std::vector<inspect::Problem>& problems) {
+  std::string lines;
+  for (const inspect::Problem& problem : problems) {
+    const std::string byte = problem.bytes ? std::to_string(problem.bytes->begin) : "?";
+    const std::string hint =
+        problem.suggestion ? fmt::format("; did you mean \"{}\"?", Printable(*problem.suggestion)) : "";
+    lines +=
+        fmt::format("{}:{}:{}: {}: {}{} [{}]\n", input, number, byte, inspect::SeverityName(problem.severity),
+                    Printable(problem.message), hint, problem.code);
+  }
+  return lines;
+}
+
+int Run(const CheckOptions& options) {
+  options.names.Apply();
+  const std::string input = options.names.bulk.names.empty() ? "-" : "argument";
+  Hints hints(options.names);
+  const auto check = [&](const std::string& name, std::size_t number) -> NameResult {
+    const std::vector<inspect::Problem> problems =
+        options.names.marker ? inspect::CheckMarkerName(name) : inspect::CheckBubbleName(name);
+    if (problems.empty()) return {};
+    const auto is_error = [](const inspect::Problem& problem) {
+      return problem.severity == inspect::Severity::kError;
+    };
+    const bool fails = std::any_of(problems.begin(), problems.end(), is_error);
+    const bool as_json = options.format == "json";
+    return {as_json ? inspect::ToJsonLine(name, number, problems) : ToLines(input, number, problems), true,
+            fails ? hints.For(name) : ""};
+  };
+  return WorkInBulk(options.names.bulk, check) == 0 ? 0 : 1;
+}
+
+}  // namespace
+
+CommandDescription CheckCommand() {
+  const auto list_options = [](Command& command) -> std::function<int()> {
+    const auto options = std::make_shared<CheckOptions>();
+    AddNameOptions(command, options->names);
+    command.Choice("--format", options->format, {"text", "json"},
+                   "Output format: text, one problem a line, or json, one name with problems a line");
+    command.Footer(
+        "A problem is INPUT:NUMBER:BYTE: severity: message [code]. NUMBER is the name's, from 1, and BYTE "
+        "its\n"
+        "first byte, from 0; ? where JsonCpp had to read the payload and the place is not known.\n"
+        "Exit status: 0 no problem; 1 a name has problems; 2 usage, input or output error.");
+    return [options] { return Run(*options); };
+  };
+  return {"check", "Show what is wrong with resource names; silent when nothing is", list_options};
+}
+
+}  // namespace kavrix::tools

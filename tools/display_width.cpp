@@ -1,0 +1,57 @@
+#include "tools/display_width.h"
+
+#include <algorithm>
+#include <array>
+
+#include "util/utf8.h"
+
+namespace kavrix::tools {
+namespace {
+
+struct CharacterRange {
+  char32_t first;
+  char32_t last;
+};
+
+constexpr std::array<CharacterRange, 15> kWide = {{{0x1100, 0x115F},
+                                                   {0x2E80, 0x303E},
+                                                   {0x3041, 0x33FF},
+                                                   {0x3400, 0x4DBF},
+                                                   {0x4E00, 0x9FFF},
+                                                   {0xA000, 0xA4CF},
+                                                   {0xA960, 0xA97F},
+                                                   {0xAC00, 0xD7A3},
+                                                   {0xF900, 0xFAFF},
+                                                   {0xFE30, 0xFE6F},
+                                                   {0xFF00, 0xFF60},
+                                                   {0xFFE0, 0xFFE6},
+                                                   {0x1F300, 0x1F64F},
+                                                   {0x1F900, 0x1F9FF},
+                                                   {0x20000, 0x3FFFD}}};
+constexpr std::array<CharacterRange, 4> kCombining = {
+    {{0x0300, 0x036F}, {0x200B, 0x200F}, {0x20D0, 0x20FF}, {0xFE00, 0xFE0F}}};
+
+template <class Ranges>
+bool IsIn(const Ranges& ranges, char32_t c) {
+  return std::any_of(ranges.begin(), ranges.end(),
+                     [&](const CharacterRange& range) { return c >= range.first && c <= range.last; });
+}
+
+}  // namespace
+
+std::size_t DisplayWidth(std::string_view text) {
+  std::size_t width = 0;
+  while (!text.empty()) {
+    const Utf8Piece piece = NextUtf8(text);
+    if (!IsIn(kCombining, piece.code_point)) width += IsIn(kWide, piece.code_point) ? 2 : 1;
+    text.remove_prefix(piece.length);
+  }
+  return width;
+}
+
+std::string Padded(std::string_view text, std::size_t width) {
+  const std::size_t own = DisplayWidth(text);
+  return std::string(text) + std::string(width > own ? width - own : 0, ' ');
+}
+
+}  // namespace kavrix::tools

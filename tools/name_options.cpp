@@ -1,0 +1,32 @@
+#include "tools/name_options.h"
+
+#include "map_resource/map_resource_manager.h"
+#include "tools/context.h"
+
+namespace kavrix::tools {
+
+bool NameOptions::IsAnyGivenBesidesNames() const {
+  return prefix || context_name || marker || bulk.null_delimited || bulk.jobs != 1;
+}
+
+inspect::TransformSetup NameOptions::Apply() const {
+  if (prefix) MapResourceManager::kavrix_resource_prefix = prefix->c_str();
+  return config_path ? LoadConfig(*config_path, context_name) : LoadDefaultConfig(context_name);
+}
+
+void AddNameOptions(Command& command, NameOptions& options) {
+  AddNameOptionsBesidesConfig(command, options,
+                              "Resource names; without any, read one a line from standard input");
+  command.Text("--config", options.config_path, "Configuration file instead of the built-in one");
+}
+
+void AddNameOptionsBesidesConfig(Command& command, NameOptions& options, const std::string& help) {
+  command.Arguments("NAME", options.bulk.names, help);
+  command.Text("--prefix", options.prefix, "Prefix of the names instead of kavrix://resource/");
+  command.Text("--context-name", options.context_name, "Context name in the log records");
+  command.Flag("--marker", options.marker, "The names are marker names, not bubble names");
+  AddBulkOptions(command, options.bulk);
+  command.Flag("--null", options.bulk.null_delimited, "Names on standard input end in NUL, not newline");
+}
+
+}  // namespace kavrix::tools
