@@ -39,3 +39,6 @@ set(KAVRIX_PUBLIC_HEADERS
     util/string_util.h
     util/tagged_log.h
     util/tagged_log_plog.h)
+
+# The headers of kavrix::inspect, which a static build installs beside those.
+set(KAVRIX_INSPECT_HEADERS descriptors/flat_members.h inspect/explain.h inspect/explanation.h inspect/transform_setup.h)

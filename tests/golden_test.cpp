@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <nlohmann/json.hpp>
 #include <regex>
 
@@ -33,13 +34,20 @@ class GoldenTest : public ::testing::TestWithParam<const BubbleKindInfo*> {
     if (GetParam()->entry_point == EntryPoint::kMarker) arguments.emplace_back("--marker");
     return arguments;
   }
-  ToolResult DecodeGoldenNames(const std::vector<std::string>& options) const {
+  ToolResult RunOverGoldenNames(std::vector<std::string> arguments) const {
     std::string names;
     for (const std::string& name : GoldenNames(*GetParam())) names += name + '\0';
-    std::vector<std::string> arguments = DecodeArguments();
+    if (GetParam()->entry_point == EntryPoint::kMarker) arguments.emplace_back("--marker");
     arguments.emplace_back("--null");
-    arguments.insert(arguments.end(), options.begin(), options.end());
     return RunTool(arguments, names);
+  }
+  // The codes of the problems of each golden name, by its number.
+  std::map<std::size_t, nlohmann::json> Codes() const {
+    std::map<std::size_t, nlohmann::json> codes;
+    for (const auto& line : RunOverGoldenNames({"check", "--format", "json"}).JsonLines()) {
+      for (const auto& problem : line.at("problems")) codes[line.at("number")].push_back(problem.at("code"));
+    }
+    return codes;
   }
   // Returns the keys of the kind without their paths, such as "type" for "cameras[].type".
   std::vector<std::string> Keys() const {
@@ -51,21 +59,29 @@ class GoldenTest : public ::testing::TestWithParam<const BubbleKindInfo*> {
   }
 };
 
-TEST_P(GoldenTest, NamesDecodeAsRecorded) {
+TEST_P(GoldenTest, NamesDecodeAndCheckAsRecorded) {
   const std::string path = GoldenPath(*GetParam());
   const std::string golden = ReadFile(path);
   ASSERT_FALSE(golden.empty()) << "the kind has no golden file: " << path;
-  const ToolResult result = DecodeGoldenNames({});
+  const ToolResult result = RunOverGoldenNames({"decode", "--format", "json"});
   EXPECT_EQ(result.errors, "");
+  const std::map<std::size_t, nlohmann::json> codes = Codes();
+  std::string printed;
+  std::size_t number = 0;
+  for (std::string line : result.Lines()) {
+    const auto found = codes.find(++number);
+    line.pop_back();  // the brace that closes the object
+    printed += line + ",\"codes\":" + (found == codes.end() ? "[]" : found->second.dump()) + "}\n";
+  }
   if (update_goldens) {
-    std::ofstream(path, std::ios::binary) << result.output;
+    std::ofstream(path, std::ios::binary) << printed;
     return;
   }
-  EXPECT_EQ(FirstDifference(golden, result.output), "") << kHowToUpdate;
+  EXPECT_EQ(FirstDifference(golden, printed), "") << kHowToUpdate;
 }
 
 TEST_P(GoldenTest, EveryKeyIsInANameAndInTheHeadCommentOfTheSource) {
-  const std::string fields = DecodeGoldenNames({"--fields"}).output;
+  const std::string fields = RunOverGoldenNames({"decode", "--fields"}).output;
   const std::string source = ReadFile(SourcePath());
   const std::string head = source.substr(0, source.find("#include"));
   for (const std::string& key : Keys()) {

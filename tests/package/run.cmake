@@ -12,8 +12,14 @@ file(
   RELATIVE ${work}/prefix/include/kavrix_map_resource
   ${work}/prefix/include/*)
 list(SORT installed)
-if(NOT installed STREQUAL KAVRIX_PUBLIC_HEADERS)
-  message(FATAL_ERROR "the installed headers are\n${installed}\nand not the public ones\n${KAVRIX_PUBLIC_HEADERS}")
+file(GLOB_RECURSE inspect_library ${work}/prefix/*kavrix_inspect*)
+set(expected ${KAVRIX_PUBLIC_HEADERS})
+if(inspect_library)
+  list(APPEND expected ${KAVRIX_INSPECT_HEADERS})
+  list(SORT expected)
+endif()
+if(NOT installed STREQUAL expected)
+  message(FATAL_ERROR "the installed headers are\n${installed}\nand not the public ones\n${expected}")
 endif()
 
 set(options -G ${GENERATOR} -DCMAKE_PREFIX_PATH=${work}/prefix -DCMAKE_CXX_COMPILER=${CXX_COMPILER}
@@ -22,6 +28,9 @@ run(${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${work}/build ${options} -DPLOG_INCLUDE
 run(${CMAKE_COMMAND} --build ${work}/build)
 run(${work}/build/client)
 run(${work}/build/plain)
+if(inspect_library)
+  run(${work}/build/explainer)
+endif()
 run(${work}/prefix/bin/kavrix-resource --version)
 
 # A client of pkg-config alone.
