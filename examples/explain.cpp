@@ -1,6 +1,6 @@
-#include <iostream>
-
 #include "inspect/explain.h"
+
+#include <iostream>
 
 // In its debug build, a client tells why a bubble looks wrong.
 void ReportProblems(const std::string& name) {
@@ -17,7 +17,7 @@ int main() {
   setup.context = std::make_shared<kavrix::KavrixContext>("main-map");
   for (const auto& member : kavrix::inspect::ExplainBubbleName(name, setup).members) {
     if (member.from != kavrix::inspect::Origin::kName) continue;
-    std::cout << member.member.path << " is of key " << member.key << ", bytes " << member.bytes->begin << " to "
-              << member.bytes->end << '\n';
+    std::cout << member.member.path << " is of key " << member.key << ", bytes " << member.bytes->begin
+              << " to " << member.bytes->end << '\n';
   }
 }
