@@ -29,11 +29,11 @@ std::string ValueAsJson(const FlatMember& member) {
 }
 
 std::string KindAsJson(const Decoded& decoded) {
-  return decoded.kind ? TextAsJson(MarkerOf(*decoded.kind).substr(1)) : kNull;
+  return decoded.kind ? TextAsJson(MarkerOf(*decoded.kind).substr(1)) : std::string(kNull);
 }
 
 std::string ExceptionAsJson(const Decoded& decoded) {
-  return decoded.exception ? TextAsJson(*decoded.exception) : kNull;
+  return decoded.exception ? TextAsJson(*decoded.exception) : std::string(kNull);
 }
 
 // Places the members of one side, in their order.
@@ -185,10 +185,14 @@ std::vector<Difference> Compare(const Decoded& old_result, const Decoded& new_re
   };
   const auto add = [&](MemberOrder order, const FlatMember* before, const FlatMember* after) {
     if (before != nullptr && after != nullptr && *before == *after) return;
-    Difference difference = {before != nullptr ? before->path : after->path, kNull, kNull, order, {}, {}};
-    if (before != nullptr) difference.old_value = ValueAsJson(*(difference.old_member = *before));
-    if (after != nullptr) difference.new_value = ValueAsJson(*(difference.new_member = *after));
-    differences.push_back(std::move(difference));
+    const auto value_of = [](const FlatMember* member) {
+      return member == nullptr ? std::string(kNull) : ValueAsJson(*member);
+    };
+    const auto copy_of = [](const FlatMember* member) {
+      return member == nullptr ? std::nullopt : std::make_optional(*member);
+    };
+    const std::string& path = (before == nullptr ? after : before)->path;
+    differences.push_back({path, value_of(before), value_of(after), order, copy_of(before), copy_of(after)});
   };
   const bool are_same = old_result.descriptor != nullptr && new_result.descriptor != nullptr &&
                         *old_result.descriptor == *new_result.descriptor;
@@ -207,8 +211,11 @@ std::vector<Difference> Compare(const DecodedLine& old_line, const DecodedLine& 
   AddTexts("kind", old_line.kind, new_line.kind, kOrderOfKind, differences);
   const auto add = [&](MemberOrder order, const DecodedLine::Member* before,
                        const DecodedLine::Member* after) {
-    AddTexts(before != nullptr ? before->path : after->path, before != nullptr ? before->value : kNull,
-             after != nullptr ? after->value : kNull, order, differences);
+    const auto value_of = [](const DecodedLine::Member* member) {
+      return member == nullptr ? std::string(kNull) : member->value;
+    };
+    AddTexts((before == nullptr ? after : before)->path, value_of(before), value_of(after), order,
+             differences);
   };
   ForEachPair(
       old_line.members, new_line.members, [](const DecodedLine::Member& member) { return member.path; }, add);

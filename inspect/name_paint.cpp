@@ -20,7 +20,7 @@ void NamePaint::WriteTo(Explanation& explanation) const {
     std::size_t end = begin + 1;
     while (end < owners_.size() && owners_[end] == owners_[begin]) ++end;
     const int owner = owners_[begin];
-    if (owner == kStructure) explanation.structure.push_back({begin, end});
+    if (owner < kTaken) explanation.structure.push_back({begin, end});
     if (owner >= 0) explanation.ignored.push_back({{begin, end}, reasons_[static_cast<std::size_t>(owner)]});
     begin = end;
   }

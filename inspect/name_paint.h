@@ -16,19 +16,20 @@ class NamePaint {
   NamePaint(std::size_t size, std::string reason) : owners_(size, 0), reasons_({std::move(reason)}) {}
 
   void Ignore(ByteRange bytes, std::string reason);
-  void Structure(ByteRange bytes) { Paint(bytes, kStructure); }
+  void Structure(ByteRange bytes) { Paint(bytes, next_structure_--); }
   void Taken(ByteRange bytes) { Paint(bytes, kTaken); }
 
   // Writes the structure and what is ignored.
   void WriteTo(Explanation& explanation) const;
 
  private:
-  static constexpr int kStructure = -1;
-  static constexpr int kTaken = -2;
+  static constexpr int kTaken = -1;
 
   void Paint(ByteRange bytes, int owner);
 
-  std::vector<int> owners_;  // of each byte: one of the above, or the index of a reason
+  // Of each byte: kTaken, a number below it for each piece of the structure, or the index of a reason.
+  std::vector<int> owners_;
+  int next_structure_ = kTaken - 1;
   std::vector<std::string> reasons_;
 };
 

@@ -20,9 +20,8 @@ namespace {
 
 constexpr std::uint16_t kKindCode = 12;
 
-struct HdLongSolidFormat : FieldsFormat<HdLongSolidFormat, HDLongSolidBubbleDrawDescriptor, 3> {
+struct HdLongSolidFormat : FieldsFormat<HdLongSolidFormat, HDLongSolidBubbleDrawDescriptor, 3, 2> {
   static constexpr std::string_view kMarker = MarkerOf(BubbleKind::kHdLongSolid);
-  static constexpr std::size_t kLeastFields = 2;
   template <class Fields, class Descriptor>
   static void List(Fields& fields, Descriptor& bubble) {
     fields.Text(0, "content", bubble.content);

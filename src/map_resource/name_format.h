@@ -133,13 +133,13 @@ struct JsonAndDirectionFormat {
   }
 };
 
-// prefix head "@" direction marker, where the head is FieldCount fields joined by "_". Head and tail are read
-// independently of each other, and nothing is a failure.
-template <class Self, class CarriedType, std::size_t FieldCount>
+// prefix head "@" direction marker, where the head is FieldCount fields joined by "_". With fewer LeastFields
+// some may be missing, and more may follow. Head and tail are read independently of each other, and nothing
+// is a failure.
+template <class Self, class CarriedType, std::size_t FieldCount, std::size_t LeastFields = FieldCount>
 struct FieldsFormat {
   using Carried = CarriedType;
   static constexpr std::size_t kFieldCount = FieldCount;
-  static constexpr std::size_t kLeastFields = FieldCount;  // fewer: some may be missing, and more may follow
   template <class Keys, class AnyCarried>
   static void ListAll(Keys& keys, AnyCarried& carried) {
     Self::List(keys, carried);
@@ -151,7 +151,7 @@ struct FieldsFormat {
     Fields<2> parts;
     if (!reading.Split(payload, '@', parts)) return;
     Fields<FieldCount> head;
-    if (reading.Split(parts.at[0], '_', head, Self::kLeastFields)) {
+    if (reading.Split(parts.at[0], '_', head, LeastFields)) {
       reading.ReadFields(head, [&](auto& fields) { Self::List(fields, carried); });
     }
     reading.ReadDirectionTail(parts.at[1], carried);
