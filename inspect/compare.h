@@ -4,13 +4,13 @@
 #include <cstddef>
 #include <map>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <tuple>
 #include <vector>
 
 #include "descriptors/flat_members.h"
+#include "inspect/decoded_line.h"
 #include "inspect/decoder.h"
 
 namespace kavrix::inspect {
@@ -32,28 +32,6 @@ struct Difference {
 
 // Compares kind, members and exception, not log records.
 std::vector<Difference> Compare(const Decoded& old_result, const Decoded& new_result);
-
-// Two lines of output of "decode --format json" that cannot be compared.
-class CompareError : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
-
-// One line of output of "decode --format json". All but the name is JSON.
-struct DecodedLine {
-  struct Member {
-    std::string path;
-    std::string value;
-  };
-
-  std::string resource_name;
-  std::string kind;
-  std::vector<Member> members;
-  std::string exception;
-};
-
-// Throws CompareError for a line that "decode --format json" does not write.
-DecodedLine ReadDecodedLine(const std::string& line);
 
 // Bytes that are not UTF-8 are alike in such lines.
 std::vector<Difference> Compare(const DecodedLine& old_line, const DecodedLine& new_line);
