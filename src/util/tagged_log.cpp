@@ -39,8 +39,11 @@ class InstanceTable {
     is_empty_ = instances_.empty();
   }
 
+  // Whether no record of this thread is taken by anybody. Spares the lock when nobody logs.
+  bool IsSilent() const { return is_empty_ || are_muted; }
+
   InstancePointer Find(std::uint32_t id) {
-    if (is_empty_ || are_muted) return nullptr;
+    if (IsSilent()) return nullptr;
     const std::lock_guard<std::mutex> lock(mutex_);
     const auto found = instances_.find(id);
     return found == instances_.end() ? nullptr : found->second;
@@ -49,7 +52,6 @@ class InstanceTable {
   // Whether the instance takes records of the level; in `filtering` it is returned only if its filter must be
   // asked too: the count of its owners is shared by all threads that log.
   bool Takes(std::uint32_t id, LogLevel level, InstancePointer& filtering) {
-    if (is_empty_ || are_muted) return false;
     const std::lock_guard<std::mutex> lock(mutex_);
     const auto found = instances_.find(id);
     if (found == instances_.end() || level < found->second->least_level) return false;
@@ -58,7 +60,7 @@ class InstanceTable {
   }
 
  private:
-  std::atomic<bool> is_empty_{true};  // spares the lock when nobody logs
+  std::atomic<bool> is_empty_{true};
   std::mutex mutex_;
   std::map<std::uint32_t, InstancePointer> instances_;
 };
@@ -87,6 +89,7 @@ LogSink::~LogSink() = default;
 
 bool Logger::TestLogLevelAndTag(std::uint32_t instance_id, LogLevel level, const std::string& tag) noexcept {
   try {
+    if (Instances().IsSilent()) return false;
     InstancePointer filtering;
     if (!Instances().Takes(instance_id, level, filtering)) return false;
     return filtering == nullptr || filtering->tag_filter(tag);
