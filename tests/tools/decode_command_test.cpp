@@ -228,14 +228,10 @@ TEST(DecodeCommandTest, ReaderThatGoesAwayEndsTheToolWithoutAMessage) {
 TEST(DecodeCommandTest, OutputIsFlushedWheneverTheInputPauses) {
   for (const std::string command : {"decode", "decode --jobs 3", "explain", "check"}) {
     const ToolResult result = RunShell(
-        "mkfifo /tmp/kavrix_pause_$$; (echo a; sleep 3) > /tmp/kavrix_pause_$$ & "
-        "\"$TOOL\" " +
-        command +
-        " < /tmp/kavrix_pause_$$ | (read line; date +%s; cat); date +%s; "
-        "wait; rm /tmp/kavrix_pause_$$");
-    const std::vector<std::string> lines = result.Lines();
-    ASSERT_EQ(lines.size(), 2U);
-    EXPECT_GE(std::stol(lines[1]) - std::stol(lines[0]), 2) << "the result came when the input ended";
+        "fifo=/tmp/kavrix_pause_$$; mkfifo $fifo; (echo a; exec sleep 60) > $fifo & "
+        "timeout 30 \"$TOOL\" " +
+        command + " < $fifo | { head -1; kill $!; }; rm $fifo");
+    EXPECT_EQ(result.Lines().size(), 1U) << command;
   }
 }
 
@@ -257,8 +253,8 @@ TEST(DecodeCommandTest, NameOnTheCommandLineThatWasMeantAsSomethingElseGetsAHint
 
 TEST(DecodeCommandTest, UnbufferedResultsComeBeforeTheInputEnds) {
   const ToolResult result = RunShell(
-      "mkfifo /tmp/kavrix_fifo_$$; (echo a; sleep 3) > /tmp/kavrix_fifo_$$ & "
-      "timeout 2 \"$TOOL\" decode --unbuffered < /tmp/kavrix_fifo_$$ | head -1; rm /tmp/kavrix_fifo_$$");
+      "fifo=/tmp/kavrix_fifo_$$; mkfifo $fifo; (echo a; exec sleep 60) > $fifo & "
+      "timeout 30 \"$TOOL\" decode --unbuffered < $fifo | { head -1; kill $!; }; rm $fifo");
   EXPECT_EQ(result.JsonLines().at(0).at("resource_name"), "a");
 }
 
