@@ -89,10 +89,11 @@ class ByteSharer {
   // Of a payload that is no JSON object, the marker may be a part.
   bool IsMarkerAfterPayload() const {
     if (!reading_.Marker()) return false;
+    std::optional<ByteRange> payload = reading_.Object();
     const auto& object = reading_.trace().object;
     if (object && !object->is_object)
-      return reading_.Marker()->begin >= reading_.RangeOf(object->text.substr(object->text.size()))->begin;
-    return !reading_.Object() || reading_.Marker()->begin >= reading_.Object()->end;
+      payload = reading_.RangeOf(object->text);  // none in a name without braces
+    return !payload || reading_.Marker()->begin >= payload->end;
   }
 
   void PaintPayload(NamePaint& paint) const {

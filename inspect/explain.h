@@ -9,11 +9,11 @@
 
 namespace kavrix::inspect {
 
-// The context of a setup must not be null.
-
 // Explains a bubble name, as GetBubbleDrawDescriptor reads it: where every member of the descriptor came
 // from, what only steers, what is ignored and what is wrong. Decodes the name several times, and writes no
-// log records. Throws what the standard library throws when memory runs out.
+// log records. The context of the setup must not be null. Throws EncodeError where the prefix holds a marker,
+// so that no names of the kind can be built to compare with, and what the standard library throws when memory
+// runs out.
 Explanation ExplainBubbleName(const std::string& resource_name, const TransformSetup& setup);
 
 // The same for a marker name, as GetMarkerDrawDescriptor reads it.

@@ -5,6 +5,7 @@
 
 #include "inspect/explain.h"
 #include "inspect/explained_json.h"
+#include "map_resource/encode_error.h"
 #include "tools/explained_text.h"
 #include "tools/format_option.h"
 #include "tools/hints.h"
@@ -25,10 +26,14 @@ int Run(const ExplainOptions& options) {
   const ExplainedTextOptions text_options = {options.all_members, ShowsColour(), TerminalWidth()};
   Hints hints(options.names);
   const auto explain = [&](const std::string& name, std::size_t) -> NameResult {
-    const inspect::Explanation explanation = options.names.marker ? inspect::ExplainMarkerName(name, setup)
-                                                                  : inspect::ExplainBubbleName(name, setup);
-    return {as_text ? ToText(explanation, text_options) : inspect::ToJsonLine(explanation),
-            explanation.has_failed, explanation.has_failed ? hints.For(name) : ""};
+    try {
+      const inspect::Explanation explanation = options.names.marker ? inspect::ExplainMarkerName(name, setup)
+                                                                    : inspect::ExplainBubbleName(name, setup);
+      return {as_text ? ToText(explanation, text_options) : inspect::ToJsonLine(explanation),
+              explanation.has_failed, explanation.has_failed ? hints.For(name) : ""};
+    } catch (const EncodeError& error) {
+      return {"", true, std::string("cannot be explained: ") + error.what()};
+    }
   };
   return WorkInBulk(options.names.bulk, explain) == 0 ? 0 : 1;
 }

@@ -9,6 +9,7 @@ namespace kavrix::test {
 namespace {
 
 using nlohmann::json;
+using ::testing::HasSubstr;
 
 json Explain(const std::vector<std::string>& arguments) {
   std::vector<std::string> all = {"explain"};
@@ -190,6 +191,24 @@ TEST(ExplainCommandTest, NameThatLeavesOutUntouchedHasNoMembers) {
     EXPECT_EQ(explanation.at("members"), json::array()) << name;
   }
   EXPECT_EQ(Explain({"hello"}).at("kind"), nullptr);
+}
+
+TEST(ExplainCommandTest, NameInWhichTheDescriptorFindsNoBracesHasItsMarkerAfterThePayload) {
+  const json explanation = Explain({"kavrix://resource/abc.YawNoticeBubble tail"});
+  EXPECT_EQ(explanation.at("structure"), json::parse("[[0, 18], [21, 37]]"));
+  EXPECT_EQ(explanation.at("ignored"),
+            json::parse(R"([{"bytes": [18, 21], "reason": "the payload is no JSON object"},
+                            {"bytes": [37, 42], "reason": "it follows the marker"}])"));
+}
+
+TEST(ExplainCommandTest, NameThatCannotBeExplainedUnderAPrefixWithAMarkerStopsNoOther) {
+  const ToolResult result =
+      RunTool({"explain", "--prefix", "a.nameBubble/"},
+              "{\"mode\":1} 2345678901.YawNoticeBubble\na.nameBubble/B_0_0@1.nameBubble\n");
+  EXPECT_EQ(result.status, 1);
+  ASSERT_EQ(result.JsonLines().size(), 1U);
+  EXPECT_EQ(Member(result.JsonLines()[0], "content").at("value"), "B");
+  EXPECT_THAT(result.errors, HasSubstr("name 1: cannot be explained: YawNoticeBubble: prefix: "));
 }
 
 TEST(ExplainCommandTest, NameShorterThanThePrefixKeepsWhatWasSetBefore) {
