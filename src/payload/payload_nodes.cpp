@@ -6,13 +6,21 @@
 
 namespace kavrix {
 
+bool PayloadNodes::ReadPlain(std::string_view payload) { return ScanPlain(payload, nodes_); }
+
 bool PayloadNodes::Read(std::string_view payload) {
-  if (ScanPlain(payload, nodes_)) return true;
+  if (ReadPlain(payload)) return true;
   tree_.emplace();
   if (!ParseTree(payload, *tree_)) return false;
   nodes_.Clear();
   List(*tree_);
   return true;
+}
+
+std::size_t PayloadNodes::ObjectEnd(std::string_view payload) const {
+  if (tree_) return static_cast<std::size_t>(tree_->getOffsetLimit());
+  const std::string_view object = nodes_[0].Bytes();
+  return static_cast<std::size_t>(object.data() + object.size() - payload.data());
 }
 
 void PayloadNodes::List(const Json::Value& root) { ListValue(root, 0, {}); }

@@ -3,6 +3,7 @@
 
 #include <json/value.h>
 
+#include <cstddef>
 #include <optional>
 #include <string_view>
 
@@ -21,10 +22,16 @@ class PayloadNodes {
   // False when `payload`, which must outlive the object, does not parse or its root is not an object.
   bool Read(std::string_view payload);
 
+  // The same, but also false for what is not plain.
+  bool ReadPlain(std::string_view payload);
+
   const NodeList& nodes() const { return nodes_; }
 
   // Whether the scanner read the payload, so that every node has its bytes.
   bool IsPlain() const { return !tree_; }
+
+  // Where the object that Read found ends, in bytes from the beginning of the payload.
+  std::size_t ObjectEnd(std::string_view payload) const;
 
  private:
   void List(const Json::Value& root);
