@@ -1,13 +1,13 @@
-// Fuzzes the tool's reader of names: the first byte of the input picks the delimiter and the buffer size, the
-// rest is the stream.
+// Fuzzes the tool's reader of lines: the first byte of the input picks the delimiter and the buffer size, the
+// second the longest line, the rest is the stream.
 
 #include <sys/mman.h>
 #include <unistd.h>
 
-#include <vector>
+#include <atomic>
 
 #include "fuzz/fuzzing.h"
-#include "tools/streams.h"
+#include "tools/line_input.h"
 
 namespace kavrix::fuzz {
 namespace {
@@ -21,16 +21,19 @@ int OpenStream(std::string_view text) {
   return file;
 }
 
-std::vector<std::string> ExpectedNames(std::string_view text, char delimiter) {
-  std::vector<std::string> names;
-  while (!text.empty()) {
-    const std::size_t end = std::min(text.find(delimiter), text.size());
-    std::string name(text.substr(0, end));
-    if (delimiter == '\n' && !name.empty() && name.back() == '\r') name.pop_back();
-    names.push_back(name);
-    text.remove_prefix(std::min(end + 1, text.size()));
+// Each block must hold whole lines, and all of them together the stream.
+void RequireWholeLines(tools::LineInput& input, std::string_view text,
+                       const tools::LineInput::Options& options) {
+  for (std::string_view lines = input.Next(); !lines.empty(); lines = input.Next()) {
+    Require(text.substr(0, lines.size()) == lines, "nothing is lost, changed or moved");
+    text.remove_prefix(lines.size());
+    if (input.IsCut()) {
+      Require(lines.size() == options.longest_line, "only a line that is too long is cut");
+    } else {
+      Require(lines.back() == options.delimiter || text.empty(), "only the last line lacks its delimiter");
+    }
   }
-  return names;
+  Require(text.empty(), "all of the stream is read");
 }
 
 }  // namespace
@@ -38,13 +41,14 @@ std::vector<std::string> ExpectedNames(std::string_view text, char delimiter) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace kavrix;
-  if (size == 0) return -1;
-  const char delimiter = *data % 2 == 0 ? '\n' : '\0';
-  const std::size_t buffer_size = 1 + *data / 2;
-  const std::string_view text = fuzz::AsText(data + 1, size - 1);
-  tools::NameInput input(delimiter, fuzz::OpenStream(text), buffer_size);
-  std::vector<std::string> names;
-  for (std::string name; input.Next(name);) names.push_back(name);
-  fuzz::Require(names == fuzz::ExpectedNames(text, delimiter), "the names are the pieces of the stream");
+  if (size < 2) return -1;
+  tools::LineInput::Options options;
+  options.delimiter = data[0] % 2 == 0 ? '\n' : '\0';
+  options.buffer_size = 1 + data[0] / 2;
+  options.longest_line = 1 + data[1];
+  const std::string_view text = fuzz::AsText(data + 2, size - 2);
+  const std::atomic<bool> interrupted{false};
+  tools::LineInput input(fuzz::OpenStream(text), "the stream", options, interrupted);
+  fuzz::RequireWholeLines(input, text, options);
   return 0;
 }

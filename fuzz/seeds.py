@@ -52,12 +52,23 @@ def config_inputs(root):
     yield json.dumps({"marker_bubble": config["marker_bubble"]}, ensure_ascii=False).encode()
 
 
+def log_inputs(names):
+    own = "routine KavrixMapLayerMgr GetBubbleDrawDescriptor a.cpp:1 [Kavrix][m]resource_name:"
+    for i in range(0, len(names), 4):
+        some = names[i:i + 4]
+        yield b"\0" + "\n".join(f"x {name}, y" for name in some).encode()
+        yield b"\0" + " ".join(some).encode()
+        yield b"\0" + "".join(f"[Kavrix][m]resource_name:{name}\n" * 2 for name in some).encode()
+        yield b"\0" + "".join(own + name.replace("\\", "\\\\") + "\n" for name in some).encode()
+        yield b"\1" + "\n".join(json.dumps({"message": name}) for name in some).encode()
+
+
 def stream_inputs(names):
     for i in range(0, len(names), 8):
         some = [name.encode() for name in names[i:i + 8]]
-        yield b"\x02" + b"\n".join(some)
-        yield b"\x20" + b"\r\n".join(some) + b"\n"
-        yield b"\x81" + b"\0".join(some)
+        yield b"\x02\xff" + b"\n".join(some)
+        yield b"\x20\xff" + b"\r\n".join(some) + b"\n"
+        yield b"\x81\x10" + b"\0".join(some)
 
 
 def main():
@@ -72,7 +83,8 @@ def main():
         "round_trip": payload_inputs(names, markers),
         "texts": text_inputs(names),
         "config": config_inputs(root),
-        "name_input": stream_inputs(names),
+        "extract": log_inputs(names),
+        "line_input": stream_inputs(names),
     }
     for fuzzer, seeds in inputs.items():
         folder = output / fuzzer

@@ -12,53 +12,14 @@
 #include "tools/ordered_pipeline.h"
 #include "tools/progress.h"
 #include "tools/streams.h"
+#include "tools/text_names.h"
 
 namespace kavrix::tools {
 namespace {
 
-// Yields the names of the command line or, without any, those of standard input.
-class NameSource {
- public:
-  explicit NameSource(const BulkOptions& options)
-      : given_(options.names), input_(options.null_delimited ? '\0' : '\n') {}
-
-  // Adds up to `most` names; waits only for the first. Returns false at the end.
-  bool Take(std::size_t most, std::vector<std::string>& names) {
-    std::string name;
-    while (names.size() < most && (names.empty() || HasNext()) && Next(name))
-      names.push_back(std::move(name));
-    return !names.empty();
-  }
-
-  void Interrupt() { input_.Interrupt(); }
-  void SetOnPause(std::function<void()> on_pause) { input_.SetOnPause(std::move(on_pause)); }
-
-  // The size of all the names, newlines included; none when it is unknown.
-  std::optional<std::uint64_t> Bytes() const {
-    if (given_.empty()) return NameInput::BytesLeft();
-    std::uint64_t bytes = 0;
-    for (const std::string& name : given_) bytes += name.size() + 1;
-    return bytes;
-  }
-
- private:
-  bool HasNext() const { return given_.empty() ? input_.HasNext() : given_taken_ < given_.size(); }
-  bool Next(std::string& name) {
-    if (given_.empty()) return input_.Next(name);
-    if (!HasNext()) return false;
-    name = given_[given_taken_++];
-    return true;
-  }
-
-  const std::vector<std::string>& given_;
-  std::size_t given_taken_ = 0;
-  NameInput input_;
-};
-
 struct Batch {
-  std::vector<std::string> names;
-  std::size_t before = 0;  // how many names the batches before it hold
-  std::size_t bytes = 0;
+  std::vector<InputName> names;
+  std::size_t bytes = 0;  // of the input, read for them
   std::size_t failed = 0;
   std::string results;
   std::vector<std::pair<std::size_t, std::string>> problems;  // each with the number of its name
@@ -88,8 +49,7 @@ void AddBulkOptions(Command& command, BulkOptions& options) {
   command.Flag("--unbuffered", options.unbuffered, "Write each result as soon as it is ready");
 }
 
-std::size_t WorkInBulk(const BulkOptions& options, const NameWork& work) {
-  NameSource source(options);
+std::size_t WorkInBulk(NameSource& source, const BulkOptions& options, const NameWork& work) {
   const bool unbuffered = options.unbuffered || isatty(STDOUT_FILENO) != 0;
   Output output(unbuffered);
   Progress progress(ShowsProgress(options), source.Bytes());
@@ -102,27 +62,26 @@ std::size_t WorkInBulk(const BulkOptions& options, const NameWork& work) {
     is_paused = true;
     output.Flush();
   });
-  std::size_t taken = 0;
   const auto take = [&](Batch& batch) {
+    const std::uint64_t bytes_before = source.BytesTaken();
     const bool is_any = source.Take(unbuffered ? 1 : kMostNames, batch.names);
+    batch.bytes = source.BytesTaken() - bytes_before;
     is_paused = false;
-    batch.before = taken;
-    taken += batch.names.size();
     return is_any;
   };
   const auto work_on = [&](Batch& batch) {
-    for (std::size_t i = 0; i < batch.names.size(); ++i) {
-      batch.bytes += batch.names[i].size() + 1;
-      const NameResult result = work(std::move(batch.names[i]), batch.before + i + 1);
-      if (!result.problem.empty()) batch.problems.emplace_back(batch.before + i + 1, result.problem);
+    for (InputName& name : batch.names) {
+      const std::size_t number = name.number;
+      const NameResult result = work(std::move(name));
+      if (!result.problem.empty()) batch.problems.emplace_back(number, result.problem);
       batch.results += result.text;
       batch.failed += result.failed ? 1 : 0;
     }
   };
   const auto put = [&](const Batch& batch) {
     output.Write(batch.results);
-    for (const auto& [place, problem] : batch.problems) {
-      WriteErrorLine(options.what + ' ' + std::to_string(place) + ": " + problem);
+    for (const auto& [number, problem] : batch.problems) {
+      WriteErrorLine(options.what + ' ' + std::to_string(number) + ": " + problem);
     }
     if (is_paused) output.Flush();
     failed += batch.failed;
@@ -131,6 +90,19 @@ std::size_t WorkInBulk(const BulkOptions& options, const NameWork& work) {
   const auto stop = [&] { source.Interrupt(); };
   OrderedPipeline<Batch>({take, work_on, put, stop}).Run(options.jobs);
   output.Flush();
+  return failed;
+}
+
+std::size_t WorkInBulk(const BulkOptions& options, const NameWork& work) {
+  if (!options.names.empty()) {
+    GivenNames names(options.names);
+    return WorkInBulk(names, options, work);
+  }
+  TextNames::Options text_options;
+  text_options.null_delimited = options.null_delimited;
+  TextNames names({"-"}, text_options);
+  const std::size_t failed = WorkInBulk(names, options, work);
+  if (names.HadTrouble()) throw ToldTrouble();
   return failed;
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "tools/command_line.h"
+#include "tools/name_source.h"
 
 namespace kavrix::tools {
 
@@ -17,8 +18,7 @@ struct NameResult {
   std::string problem;  // for standard error, without the name's place; empty when there is none
 };
 
-// Works on a name; `number` is its place among the names, from 1.
-using NameWork = std::function<NameResult(std::string name, std::size_t number)>;
+using NameWork = std::function<NameResult(InputName name)>;
 
 // Calls `work` and returns its text; an exception makes a failed name with its message as the problem.
 NameResult ResultOf(const std::function<std::string()>& work);
@@ -38,6 +38,10 @@ void AddBulkOptions(Command& command, BulkOptions& options);
 // error, in the order of the names. A long run shows its progress if standard error is a terminal and neither
 // results nor typed names use it. `work` is called from several threads at once. Returns how many names
 // failed. Throws StreamError and what `work` throws, after everything before it is written.
+std::size_t WorkInBulk(NameSource& source, const BulkOptions& options, const NameWork& work);
+
+// The same for the names of the command line or, without any, those of standard input. Throws ToldTrouble
+// when that could not be read.
 std::size_t WorkInBulk(const BulkOptions& options, const NameWork& work);
 
 }  // namespace kavrix::tools

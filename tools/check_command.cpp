@@ -40,7 +40,8 @@ int Run(const CheckOptions& options) {
   options.names.Apply();
   const std::string input = options.names.bulk.names.empty() ? "-" : "argument";
   Hints hints(options.names);
-  const auto check = [&](const std::string& name, std::size_t number) -> NameResult {
+  const auto check = [&](const InputName& given) -> NameResult {
+    const std::string& name = given.name;
     const std::vector<inspect::Problem> problems =
         options.names.marker ? inspect::CheckMarkerName(name) : inspect::CheckBubbleName(name);
     if (problems.empty()) return {};
@@ -49,8 +50,9 @@ int Run(const CheckOptions& options) {
     };
     const bool fails = std::any_of(problems.begin(), problems.end(), is_error);
     const bool as_json = options.format == "json";
-    return {as_json ? inspect::ToJsonLine(name, number, problems) : ToLines(input, number, problems), true,
-            fails ? hints.For(name) : ""};
+    return {
+        as_json ? inspect::ToJsonLine(name, given.number, problems) : ToLines(input, given.number, problems),
+        true, fails ? hints.For(name) : ""};
   };
   return WorkInBulk(options.names.bulk, check) == 0 ? 0 : 1;
 }

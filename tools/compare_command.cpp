@@ -76,7 +76,8 @@ int CompareConfigurations(const CompareOptions& options) {
   inspect::Decoder new_decoder(names.Apply(), names.Entry());
   inspect::DifferenceSummary summary;
   std::mutex mutex;
-  const auto compare = [&](const std::string& name, std::size_t) -> NameResult {
+  const auto compare = [&](const InputName& given) -> NameResult {
+    const std::string& name = given.name;
     const inspect::Decoded decoded = old_decoder.Decode(name);
     const auto differences = inspect::Compare(decoded, new_decoder.Decode(name));
     if (differences.empty()) return {};

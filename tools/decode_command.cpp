@@ -47,9 +47,9 @@ int Run(const DecodeOptions& options) {
   const TextOptions text_options = {options.all_members, ShowsColour()};
 
   Hints hints(options.names);
-  const auto decode = [&](std::string name, std::size_t) -> NameResult {
-    if (options.fields) return ResultOf([&] { return FieldsLine(name, entry_point); });
-    const inspect::Decoded decoded = decoder.Decode(std::move(name));
+  const auto decode = [&](InputName name) -> NameResult {
+    if (options.fields) return ResultOf([&] { return FieldsLine(name.name, entry_point); });
+    const inspect::Decoded decoded = decoder.Decode(std::move(name.name));
     const std::string hint = decoded.failed ? hints.For(decoded.name) : "";
     return {as_text ? ToText(decoded, text_options) : inspect::ToJsonLine(decoded), decoded.failed, hint};
   };

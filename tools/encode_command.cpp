@@ -57,8 +57,9 @@ int Run(const EncodeOptions& options) {
   }
   const BubbleKindInfo* const kind = options.kind ? &KindCalled(*options.kind) : nullptr;
   const char end = options.null_delimited ? '\0' : '\n';
-  const auto encode = [&](const std::string& text, std::size_t) {
+  const auto encode = [&](const InputName& given) {
     return ResultOf([&] {
+      const std::string& text = given.name;
       return Ended(kind != nullptr ? kind->codec.encode_fields(ParseJson(text)) : EncodeLine(text), end);
     });
   };

@@ -25,7 +25,8 @@ int Run(const ExplainOptions& options) {
   const bool as_text = options.format == "text";
   const ExplainedTextOptions text_options = {options.all_members, ShowsColour(), TerminalWidth()};
   Hints hints(options.names);
-  const auto explain = [&](const std::string& name, std::size_t) -> NameResult {
+  const auto explain = [&](const InputName& given) -> NameResult {
+    const std::string& name = given.name;
     try {
       const inspect::Explanation explanation = options.names.marker ? inspect::ExplainMarkerName(name, setup)
                                                                     : inspect::ExplainBubbleName(name, setup);

@@ -9,6 +9,7 @@
 #include "tools/encode_command.h"
 #include "tools/error_line.h"
 #include "tools/explain_command.h"
+#include "tools/extract_command.h"
 #include "tools/icons_command.h"
 #include "tools/kinds_command.h"
 #include "tools/streams.h"
@@ -19,11 +20,13 @@ int main(int argc, char** argv) {
   (void)std::signal(SIGPIPE, SIG_IGN);  // a closed pipe is then an error of the write
   try {
     return RunCommandLine({DecodeCommand(), ExplainCommand(), CheckCommand(), CompareCommand(),
-                           EncodeCommand(), KindsCommand(), IconsCommand()},
+                           ExtractCommand(), EncodeCommand(), KindsCommand(), IconsCommand()},
                           argc, argv);
   } catch (const ReaderGone&) {
     constexpr int kStatusOfClosedPipe = 141;  // as if the signal had ended the tool
     return kStatusOfClosedPipe;
+  } catch (const ToldTrouble&) {
+    return 2;
   } catch (const std::exception& error) {
     WriteErrorLine(error.what());
     return 2;

@@ -1,6 +1,5 @@
 #include "tools/streams.h"
 
-#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -8,6 +7,7 @@
 #include <cstdio>
 #include <cstring>
 #include <memory>
+#include <vector>
 
 namespace kavrix::tools {
 namespace {
@@ -44,50 +44,10 @@ std::string ReadFile(const std::string& path) {
   return text;
 }
 
-// False when interrupted. What is wrong with the input is for the read to tell.
-bool NameInput::AwaitInput() const {
-  constexpr int kMillisecondsToInterruption = 100;
-  pollfd input = {descriptor_, POLLIN, 0};
-  if (on_pause_ && ::poll(&input, 1, 0) == 0) on_pause_();
-  while (!interrupted_) {
-    const int ready = ::poll(&input, 1, kMillisecondsToInterruption);
-    if (ready > 0 || (ready < 0 && errno != EINTR)) return true;
-  }
-  return false;
-}
-
-bool NameInput::Fill() {
-  if (!AwaitInput()) return false;
-  ssize_t size = 0;
-  do {
-    size = ::read(descriptor_, buffer_.data(), buffer_.size());
-  } while (size < 0 && errno == EINTR);
-  if (size < 0) Fail("cannot read standard input", errno);
-  unread_ = std::string_view(buffer_.data(), static_cast<std::size_t>(size));
-  return size > 0;
-}
-
-bool NameInput::Next(std::string& name) {
-  name.clear();
-  if (unread_.empty() && !Fill()) return false;
-  for (;;) {
-    const std::size_t end = unread_.find(delimiter_);
-    name += unread_.substr(0, end);
-    if (end != std::string_view::npos) {
-      unread_.remove_prefix(end + 1);
-      break;
-    }
-    unread_ = {};
-    if (!Fill()) break;
-  }
-  if (delimiter_ == '\n' && !name.empty() && name.back() == '\r') name.pop_back();
-  return true;
-}
-
-std::optional<std::uint64_t> NameInput::BytesLeft() {
+std::optional<std::uint64_t> BytesLeft(int descriptor) {
   struct stat status = {};
-  if (::fstat(STDIN_FILENO, &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
-  const off_t read = ::lseek(STDIN_FILENO, 0, SEEK_CUR);
+  if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
+  const off_t read = ::lseek(descriptor, 0, SEEK_CUR);
   if (read < 0 || read > status.st_size) return std::nullopt;
   return static_cast<std::uint64_t>(status.st_size - read);
 }
