@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "inspect/example.h"
 #include "inspect/json_writer.h"
 #include "inspect/members.h"
 
@@ -105,10 +106,6 @@ std::size_t PlaceOfKind(std::string_view kind) {
   const auto has_kind = [&](std::string_view marker) { return marker.substr(1) == kind; };
   return static_cast<std::size_t>(std::find_if(kBubbleMarkers.begin(), kBubbleMarkers.end(), has_kind) -
                                   kBubbleMarkers.begin());
-}
-
-bool IsBetterExample(const std::string& name, const std::string& example) {
-  return std::make_pair(name.size(), name) < std::make_pair(example.size(), example);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "inspect/style_origins.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <optional>
@@ -81,6 +82,57 @@ class CellReader {
   const TaggedSetup& tagged_;
 };
 
+// Lists, for each member, the place of the style record that gave it; -1 for other members.
+class RecordLister : public MemberVisitor {
+ public:
+  explicit RecordLister(const TaggedSetup& tagged) : tagged_(tagged) {}
+
+  void Word(const char* /*name*/, std::uint32_t value) override {
+    const std::uint32_t place = (value ^ tagged_.tags.value) >> 8;
+    places.push_back(place < tagged_.records.size() ? static_cast<int>(place) : -1);
+  }
+  void Real(const char* name, float value) override {
+    std::uint32_t word = 0;
+    std::memcpy(&word, &value, sizeof word);
+    Word(name, word);
+  }
+  void Text(const char* /*name*/, const std::string& value) override {
+    const std::optional<StyleCell> cell = CellReader(tagged_)(value);
+    const auto found = cell ? std::find(tagged_.records.begin(), tagged_.records.end(), cell->record)
+                            : tagged_.records.end();
+    places.push_back(found == tagged_.records.end() ? -1 : static_cast<int>(found - tagged_.records.begin()));
+  }
+  void Integer(const char* /*name*/, std::int64_t /*value*/) override { places.push_back(-1); }
+  void Flag(const char* /*name*/, bool /*value*/) override { places.push_back(-1); }
+  void BeginList(const char* /*name*/) override {}
+  void EndList() override {}
+  void BeginObject() override {}
+  void EndObject() override {}
+
+  std::vector<int> places;
+
+ private:
+  const TaggedSetup& tagged_;
+};
+
+const TaggedSetup& FirstSetup() {
+  static const TaggedSetup kSetup(kTags[0]);
+  return kSetup;
+}
+const TaggedSetup& SecondSetup() {
+  static const TaggedSetup kSetup(kTags[1]);
+  return kSetup;
+}
+
+std::vector<int> RecordPlaces(const TaggedSetup& tagged, EntryPoint entry_point, const std::string& name) {
+  const auto descriptor = DecodeQuietly(tagged.setup, entry_point, name);
+  RecordLister lister(tagged);
+  if (descriptor == nullptr) return {};
+  descriptor->VisitBaseMembers(lister);
+  descriptor->VisitOwnMembers(lister);
+  return std::move(lister.places);
+}
+
 }  // namespace
 
 std::shared_ptr<BubbleDrawDescriptor> DecodeQuietly(const TransformSetup& setup, EntryPoint entry_point,
@@ -100,18 +152,27 @@ std::shared_ptr<BubbleDrawDescriptor> DecodeQuietly(const TransformSetup& setup,
   return descriptor;
 }
 
+std::set<std::string> FindStyleRecords(const std::string& name, EntryPoint entry_point) {
+  const std::vector<int> first = RecordPlaces(FirstSetup(), entry_point, name);
+  const std::vector<int> second = RecordPlaces(SecondSetup(), entry_point, name);
+  std::set<std::string> records;
+  for (std::size_t i = 0; i < first.size(); ++i) {
+    const bool is_styled = first[i] >= 0 && first[i] == second[i];
+    if (is_styled) records.insert(FirstSetup().records[static_cast<std::size_t>(first[i])]);
+  }
+  return records;
+}
+
 StyleOrigins FindStyleOrigins(const std::string& name, EntryPoint entry_point) {
-  static const TaggedSetup kFirst(kTags[0]);
-  static const TaggedSetup kSecond(kTags[1]);
-  const auto first = DecodeQuietly(kFirst.setup, entry_point, name);
-  const auto second = DecodeQuietly(kSecond.setup, entry_point, name);
+  const auto first = DecodeQuietly(FirstSetup().setup, entry_point, name);
+  const auto second = DecodeQuietly(SecondSetup().setup, entry_point, name);
   StyleOrigins origins;
   if (first == nullptr || second == nullptr) return origins;
   const std::vector<FlatMember> first_members = Members(*first);
   const std::vector<FlatMember> second_members = Members(*second);
   for (std::size_t i = 0; i < first_members.size(); ++i) {
-    const std::optional<StyleCell> cell = std::visit(CellReader(kFirst), first_members[i].value);
-    if (cell && std::visit(CellReader(kSecond), second_members[i].value) == cell) {
+    const std::optional<StyleCell> cell = std::visit(CellReader(FirstSetup()), first_members[i].value);
+    if (cell && std::visit(CellReader(SecondSetup()), second_members[i].value) == cell) {
       origins.emplace(first_members[i].path, *cell);
     }
   }

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 
 #include "descriptors/bubble_draw_descriptor.h"
@@ -30,6 +31,9 @@ using StyleOrigins = std::map<std::string, StyleCell>;
 // Finds them by decoding the name under two configurations in which every value tells where it stands. Writes
 // no log records.
 StyleOrigins FindStyleOrigins(const std::string& name, EntryPoint entry_point);
+
+// Only the style records, without the members that take values from them: for a fraction of the time.
+std::set<std::string> FindStyleRecords(const std::string& name, EntryPoint entry_point);
 
 // Decodes a name without log records. What was set before an exception stays set; null: nothing was.
 std::shared_ptr<BubbleDrawDescriptor> DecodeQuietly(const TransformSetup& setup, EntryPoint entry_point,

@@ -13,15 +13,17 @@
 #include "tools/icons_command.h"
 #include "tools/kinds_command.h"
 #include "tools/streams.h"
+#include "tools/survey_command.h"
 
 int main(int argc, char** argv) {
   using namespace kavrix::tools;
   std::cerr.tie(nullptr);  // else a message would flush standard output, and hide what goes wrong there
   (void)std::signal(SIGPIPE, SIG_IGN);  // a closed pipe is then an error of the write
   try {
-    return RunCommandLine({DecodeCommand(), ExplainCommand(), CheckCommand(), CompareCommand(),
-                           ExtractCommand(), EncodeCommand(), KindsCommand(), IconsCommand()},
-                          argc, argv);
+    return RunCommandLine(
+        {DecodeCommand(), ExplainCommand(), CheckCommand(), CompareCommand(), ExtractCommand(),
+         SurveyCommand(), EncodeCommand(), KindsCommand(), IconsCommand()},
+        argc, argv);
   } catch (const ReaderGone&) {
     constexpr int kStatusOfClosedPipe = 141;  // as if the signal had ended the tool
     return kStatusOfClosedPipe;
