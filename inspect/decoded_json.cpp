@@ -52,11 +52,7 @@ void WriteRecord(JsonWriter& json, const CapturedRecord& record) {
   json.EndObject();
 }
 
-}  // namespace
-
-std::string ToJsonLine(const Decoded& decoded) {
-  JsonWriter json;
-  json.BeginObject();
+void WriteMembers(JsonWriter& json, const Decoded& decoded) {
   json.Text("resource_name", decoded.name);
   json.Key("kind");
   decoded.kind ? json.Text(MarkerOf(*decoded.kind).substr(1)) : json.Null();
@@ -68,6 +64,26 @@ std::string ToJsonLine(const Decoded& decoded) {
   json.EndArray();
   json.Key("exception");
   decoded.exception ? json.Text(*decoded.exception) : json.Null();
+}
+
+}  // namespace
+
+std::string ToJsonLine(const Decoded& decoded) {
+  JsonWriter json;
+  json.BeginObject();
+  WriteMembers(json, decoded);
+  json.EndObject();
+  return json.TakeLine();
+}
+
+std::string ToJsonLine(const Decoded& decoded, const std::vector<Problem>& problems) {
+  JsonWriter json;
+  json.BeginObject();
+  WriteMembers(json, decoded);
+  json.Key("codes");
+  json.BeginArray();
+  for (const Problem& problem : problems) json.Text(problem.code);
+  json.EndArray();
   json.EndObject();
   return json.TakeLine();
 }

@@ -12,6 +12,7 @@
 #include "tools/extract_command.h"
 #include "tools/icons_command.h"
 #include "tools/kinds_command.h"
+#include "tools/shrink_command.h"
 #include "tools/streams.h"
 #include "tools/survey_command.h"
 
@@ -22,7 +23,7 @@ int main(int argc, char** argv) {
   try {
     return RunCommandLine(
         {DecodeCommand(), ExplainCommand(), CheckCommand(), CompareCommand(), ExtractCommand(),
-         SurveyCommand(), EncodeCommand(), KindsCommand(), IconsCommand()},
+         SurveyCommand(), ShrinkCommand(), EncodeCommand(), KindsCommand(), IconsCommand()},
         argc, argv);
   } catch (const ReaderGone&) {
     constexpr int kStatusOfClosedPipe = 141;  // as if the signal had ended the tool

@@ -1,0 +1,57 @@
+#include "tools/shrink_command.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "inspect/decoded_json.h"
+#include "inspect/decoder.h"
+#include "inspect/explain.h"
+#include "inspect/json_writer.h"
+#include "inspect/shrink.h"
+#include "tools/name_options.h"
+#include "tools/text_output.h"
+
+namespace kavrix::tools {
+namespace {
+
+struct ShrinkOptions {
+  NameOptions names;
+  std::string format;
+};
+
+int Run(const ShrinkOptions& options) {
+  const EntryPoint entry_point = options.names.Entry();
+  inspect::Decoder decoder(options.names.Apply(), entry_point);
+  const auto shrink = [&](const InputName& given) -> NameResult {
+    const std::optional<std::string> shrunk = inspect::Shrink(given.name, entry_point);
+    if (!shrunk) return {"", false, "it does not fail: there is nothing to shrink"};
+    if (options.format == "text") return {*shrunk + '\n', true, ""};
+    const auto problems =
+        options.names.marker ? inspect::CheckMarkerName(*shrunk) : inspect::CheckBubbleName(*shrunk);
+    return {inspect::ToJsonLine(decoder.Decode(*shrunk), problems), true, ""};
+  };
+  return WorkInBulk(options.names.bulk, shrink) == 0 ? 0 : 1;
+}
+
+}  // namespace
+
+CommandDescription ShrinkCommand() {
+  const auto list_options = [](Command& command) -> std::function<int()> {
+    const auto options = std::make_shared<ShrinkOptions>();
+    AddNameOptions(command, options->names);
+    options->format = "text";
+    command.Choice("--format", options->format, {"text", "json"},
+                   "Output format: text, the name, or json, its decode and the codes of its problems");
+    command.Footer(
+        "Prints the smallest name found that fails in the same way: it is of the same kind, its first error\n"
+        "has the same code, and it has no problem of another code than the name. --format json prints what\n"
+        "decode does, with the codes: a line for a collection of tests.\n"
+        "Exit status, as of decode: 1 names fail, and were shrunk; 0 none does; 2 usage, input or output\n"
+        "error.");
+    return [options] { return Run(*options); };
+  };
+  return {"shrink", "Find the smallest name that fails as a name does", list_options};
+}
+
+}  // namespace kavrix::tools
