@@ -18,6 +18,10 @@ namespace kavrix::tools {
 // of taking. One thread at a time takes, one puts. At most two batches a thread are held, so the memory does
 // not grow with the length of the source.
 //
+// Not oneTBB's parallel_pipeline, which was tried: in bulk it is as fast, but it takes 4 to 11 times the
+// processor time while names come slowly, a fifth more instructions to start, and writes nothing where the
+// system gives no more threads.
+//
 // A batch whose take or work throws is still put, with what it holds by then; nothing follows it.
 template <class Batch>
 class OrderedPipeline {

@@ -79,6 +79,12 @@ TEST(BulkDecodeTest, NumberOfJobsOutOfRangeIsAUsageError) {
   }
 }
 
+// No thread can have a stack of a tebibyte.
+TEST(BulkDecodeTest, ThreadsThatTheSystemDoesNotGiveAreNotNeeded) {
+  const std::string shell = "ulimit -s 1073741824 && seq 1000 | $TOOL decode --jobs 4";
+  EXPECT_TRUE(RunShell(shell).output == RunShell("seq 1000 | $TOOL decode").output);
+}
+
 TEST(BulkDecodeTest, UnreadableInputIsTrouble) {
   const ToolResult folder = RunShell("\"$TOOL\" decode --jobs 4 < /");
   EXPECT_EQ(folder.status, 2);
