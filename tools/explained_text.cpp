@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-#include "tools/display_width.h"
+#include "inspect/display_width.h"
 #include "tools/text_output.h"
 #include "util/utf8.h"
 
@@ -19,9 +19,11 @@ namespace kavrix::tools {
 namespace {
 
 using inspect::ByteRange;
+using inspect::DisplayWidth;
 using inspect::ExplainedMember;
 using inspect::Explanation;
 using inspect::Origin;
+using inspect::Padded;
 
 constexpr char kMemberMark = '~';
 constexpr char kSteerMark = '-';
@@ -118,14 +120,8 @@ std::string RuleOf(const ExplainedMember& explained) {
 // The beginning of a text that fits `width` columns, with "..." where something is missing.
 std::string Cut(const std::string& text, std::size_t width) {
   if (DisplayWidth(text) <= width) return text;
-  std::string cut;
-  for (std::size_t at = 0; at < text.size();) {
-    const std::string piece = text.substr(at, NextUtf8(std::string_view(text).substr(at)).length);
-    if (DisplayWidth(cut + piece) + 3 > width) break;
-    cut += piece;
-    at += piece.size();
-  }
-  return cut + "...";
+  constexpr std::size_t kDots = 3;
+  return text.substr(0, inspect::FittingLength(text, std::max(width, kDots) - kDots)) + "...";
 }
 
 class ExplanationText {

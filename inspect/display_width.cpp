@@ -1,11 +1,11 @@
-#include "tools/display_width.h"
+#include "inspect/display_width.h"
 
 #include <algorithm>
 #include <array>
 
 #include "util/utf8.h"
 
-namespace kavrix::tools {
+namespace kavrix::inspect {
 namespace {
 
 struct CharacterRange {
@@ -37,16 +37,36 @@ bool IsIn(const Ranges& ranges, char32_t c) {
                      [&](const CharacterRange& range) { return c >= range.first && c <= range.last; });
 }
 
+std::size_t WidthOf(char32_t c) { return IsIn(kCombining, c) ? 0 : IsIn(kWide, c) ? 2 : 1; }
+
 }  // namespace
 
 std::size_t DisplayWidth(std::string_view text) {
   std::size_t width = 0;
   while (!text.empty()) {
     const Utf8Piece piece = NextUtf8(text);
-    if (!IsIn(kCombining, piece.code_point)) width += IsIn(kWide, piece.code_point) ? 2 : 1;
+    width += WidthOf(piece.code_point);
     text.remove_prefix(piece.length);
   }
   return width;
+}
+
+std::size_t FittingLength(std::string_view text, std::size_t width) {
+  constexpr std::size_t kMostCharactersAColumn = 4;
+  std::size_t length = 0;
+  std::size_t columns = 0;
+  for (std::size_t characters = 0; characters < kMostCharactersAColumn * width; ++characters) {
+    const Utf8Piece piece = NextUtf8(text.substr(length));
+    columns += WidthOf(piece.code_point);
+    if (piece.length == 0 || columns > width) break;
+    length += piece.length;
+  }
+  return length;
+}
+
+std::string CutText(std::string_view text, std::size_t width) {
+  if (FittingLength(text, width) == text.size()) return std::string(text);
+  return std::string(text.substr(0, FittingLength(text, width - 1))) + "\xE2\x80\xA6";
 }
 
 std::string Padded(std::string_view text, std::size_t width) {
@@ -54,4 +74,4 @@ std::string Padded(std::string_view text, std::size_t width) {
   return std::string(text) + std::string(width > own ? width - own : 0, ' ');
 }
 
-}  // namespace kavrix::tools
+}  // namespace kavrix::inspect
