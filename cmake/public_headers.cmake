@@ -41,4 +41,9 @@ set(KAVRIX_PUBLIC_HEADERS
     util/tagged_log_plog.h)
 
 # The headers of kavrix::inspect, which a static build installs beside those.
-set(KAVRIX_INSPECT_HEADERS descriptors/flat_members.h inspect/explain.h inspect/explanation.h inspect/transform_setup.h)
+set(KAVRIX_INSPECT_HEADERS
+    descriptors/flat_members.h
+    inspect/explain.h
+    inspect/explanation.h
+    inspect/picture.h
+    inspect/transform_setup.h)
