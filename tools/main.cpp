@@ -6,6 +6,7 @@
 #include "tools/command_line.h"
 #include "tools/compare_command.h"
 #include "tools/decode_command.h"
+#include "tools/draw_command.h"
 #include "tools/encode_command.h"
 #include "tools/error_line.h"
 #include "tools/explain_command.h"
@@ -22,7 +23,7 @@ int main(int argc, char** argv) {
   (void)std::signal(SIGPIPE, SIG_IGN);  // a closed pipe is then an error of the write
   try {
     return RunCommandLine(
-        {DecodeCommand(), ExplainCommand(), CheckCommand(), CompareCommand(), ExtractCommand(),
+        {DecodeCommand(), ExplainCommand(), CheckCommand(), CompareCommand(), DrawCommand(), ExtractCommand(),
          SurveyCommand(), ShrinkCommand(), EncodeCommand(), KindsCommand(), IconsCommand()},
         argc, argv);
   } catch (const ReaderGone&) {

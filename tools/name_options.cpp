@@ -14,19 +14,41 @@ inspect::TransformSetup NameOptions::Apply() const {
   return config_path ? LoadConfig(*config_path, context_name) : LoadDefaultConfig(context_name);
 }
 
-void AddNameOptions(Command& command, NameOptions& options) {
-  AddNameOptionsBesidesConfig(command, options,
-                              "Resource names; without any, read one a line from standard input");
-  command.Text("--config", options.config_path, "Configuration file instead of the built-in one");
-}
+namespace {
 
-void AddNameOptionsBesidesConfig(Command& command, NameOptions& options, const std::string& help) {
+void AddNames(Command& command, NameOptions& options, const std::string& help) {
   command.Arguments("NAME", options.bulk.names, help);
   command.Text("--prefix", options.prefix, "Prefix of the names instead of kavrix://resource/");
   command.Text("--context-name", options.context_name, "Context name in the log records");
   command.Flag("--marker", options.marker, "The names are marker names, not bubble names");
-  AddBulkOptions(command, options.bulk);
+}
+
+void AddNull(Command& command, NameOptions& options) {
   command.Flag("--null", options.bulk.null_delimited, "Names on standard input end in NUL, not newline");
+}
+
+void AddConfig(Command& command, NameOptions& options) {
+  command.Text("--config", options.config_path, "Configuration file instead of the built-in one");
+}
+
+}  // namespace
+
+void AddNameOptions(Command& command, NameOptions& options) {
+  AddNameOptionsBesidesConfig(command, options,
+                              "Resource names; without any, read one a line from standard input");
+  AddConfig(command, options);
+}
+
+void AddNameOptionsBesidesConfig(Command& command, NameOptions& options, const std::string& help) {
+  AddNames(command, options, help);
+  AddBulkOptions(command, options.bulk);
+  AddNull(command, options);
+}
+
+void AddOneNameOptions(Command& command, NameOptions& options, const std::string& help) {
+  AddNames(command, options, help);
+  AddNull(command, options);
+  AddConfig(command, options);
 }
 
 }  // namespace kavrix::tools

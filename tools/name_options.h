@@ -33,6 +33,9 @@ void AddNameOptions(Command& command, NameOptions& options);
 // All of them but --config. `help` is of the names.
 void AddNameOptionsBesidesConfig(Command& command, NameOptions& options, const std::string& help);
 
+// Those that make sense for one name.
+void AddOneNameOptions(Command& command, NameOptions& options, const std::string& help);
+
 }  // namespace kavrix::tools
 
 #endif  // KAVRIX_TOOLS_NAME_OPTIONS_H_
