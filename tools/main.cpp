@@ -11,6 +11,7 @@
 #include "tools/error_line.h"
 #include "tools/explain_command.h"
 #include "tools/extract_command.h"
+#include "tools/gallery_command.h"
 #include "tools/icons_command.h"
 #include "tools/kinds_command.h"
 #include "tools/shrink_command.h"
@@ -23,8 +24,8 @@ int main(int argc, char** argv) {
   (void)std::signal(SIGPIPE, SIG_IGN);  // a closed pipe is then an error of the write
   try {
     return RunCommandLine(
-        {DecodeCommand(), ExplainCommand(), CheckCommand(), CompareCommand(), DrawCommand(), ExtractCommand(),
-         SurveyCommand(), ShrinkCommand(), EncodeCommand(), KindsCommand(), IconsCommand()},
+        {DecodeCommand(), ExplainCommand(), CheckCommand(), CompareCommand(), DrawCommand(), GalleryCommand(),
+         ExtractCommand(), SurveyCommand(), ShrinkCommand(), EncodeCommand(), KindsCommand(), IconsCommand()},
         argc, argv);
   } catch (const ReaderGone&) {
     constexpr int kStatusOfClosedPipe = 141;  // as if the signal had ended the tool
