@@ -1,6 +1,7 @@
 #include "inspect/json_texts.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "payload/escapes.h"
 #include "payload/payload_nodes.h"
@@ -19,6 +20,14 @@ std::size_t PieceLength(std::string_view source) {
 void AppendPiece(std::string_view piece, std::string& text) {
   if (piece.size() > 1 && piece[0] == '\\') return AppendUnescaped(text, piece);
   text += piece;
+}
+
+std::optional<JsonObjectError> FindErrorInObject(std::string_view line) {
+  PayloadNodes payload;
+  if (!payload.Read(line)) return FindJsonError(line);
+  const std::size_t after = line.find_first_not_of(kJsonBlanks, payload.ObjectEnd(line));
+  if (after == std::string_view::npos) return std::nullopt;
+  return JsonObjectError{after, "the end of the line"};
 }
 
 }  // namespace
@@ -51,34 +60,36 @@ bool JsonTexts::Next() {
 
 std::size_t JsonTexts::PlaceOf(std::size_t at) {
   if (at < passed_text_) passed_source_ = passed_text_ = 0;
-  const auto source_begin = static_cast<std::size_t>(source_.data() - line_.data());
-  while (passed_source_ < source_.size()) {
+  while (passed_text_ < at) {
     const std::string_view rest = source_.substr(passed_source_);
-    const std::size_t length = PieceLength(rest);
+    const std::size_t plain = std::min(rest.substr(0, at - passed_text_).find('\\'), at - passed_text_);
+    passed_source_ += plain;
+    passed_text_ += plain;
+    if (passed_text_ == at) break;
+    const std::size_t length = PieceLength(rest.substr(plain));
     std::string piece;
-    AppendPiece(rest.substr(0, length), piece);
-    const std::size_t left = at - passed_text_;
-    if (left < piece.size()) return source_begin + passed_source_ + (rest[0] == '\\' ? 0 : left);
+    AppendPiece(rest.substr(plain, length), piece);
+    if (passed_text_ + piece.size() > at) break;  // in the middle of a character that is an escape
     passed_source_ += length;
     passed_text_ += piece.size();
   }
-  return source_begin + passed_source_;
+  return static_cast<std::size_t>(source_.data() - line_.data()) + passed_source_;
 }
 
-// The reader of payloads reads objects: the line becomes the one value of one.
+// The reader of payloads reads objects: any other value becomes the one element of an array in one.
 std::optional<JsonObjectError> FindErrorInJsonLine(std::string_view line) {
-  constexpr std::string_view kBefore = "{\"\":";
-  if (line.find_first_not_of(kJsonBlanks) == std::string_view::npos) return std::nullopt;
-  const std::string object = std::string(kBefore).append(line).append("}");
+  const std::size_t begin = line.find_first_not_of(kJsonBlanks);
+  if (begin == std::string_view::npos) return std::nullopt;
+  if (line[begin] == '{') return FindErrorInObject(line);
+  constexpr std::string_view kBefore = "{\"\":[";
+  const std::string object = std::string(kBefore).append(line).append("]}");
   PayloadNodes payload;
-  JsonObjectError error;
-  if (!payload.Read(object)) {
-    error = FindJsonError(object);
-  } else if (payload.ObjectEnd(object) < object.size()) {
-    error = {payload.ObjectEnd(object) - 1, "the end of the line"};
-  } else {
-    return std::nullopt;
-  }
+  const bool is_read = payload.Read(object) && payload.ObjectEnd(object) == object.size();
+  constexpr std::uint32_t kArray = 1;
+  constexpr std::uint32_t kFirstElement = 2;
+  const bool is_one = is_read && payload.nodes()[kArray].last == kFirstElement;
+  if (is_one) return std::nullopt;
+  JsonObjectError error = is_read ? JsonObjectError{0, "one value in the line"} : FindJsonError(object);
   error.at = std::clamp(error.at, kBefore.size(), kBefore.size() + line.size()) - kBefore.size();
   return error;
 }

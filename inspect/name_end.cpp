@@ -1,6 +1,7 @@
 #include "inspect/name_end.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "inspect/json_error.h"
 #include "inspect/text_search.h"
@@ -16,6 +17,7 @@ bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 // The length of the marker that `text` begins with; 0 when it begins with none.
 std::size_t MarkerLength(std::string_view text) {
+  if (!StartsWith(text, ".")) return 0;
   for (const std::string_view marker : kBubbleMarkers) {
     if (StartsWith(text, marker)) return marker.size();
   }
@@ -48,6 +50,12 @@ std::size_t TailLength(std::string_view text) {
   return marker == 0 ? 0 : direction + marker;
 }
 
+// Whether JsonCpp may take what begins with this brace: after it comes a key, the end or a comment.
+bool CouldBeginObject(std::string_view text) {
+  const std::size_t second = text.find_first_not_of(kJsonBlanks, 1);
+  return second != kNone && std::string_view("\"}/").find(text[second]) != kNone;
+}
+
 }  // namespace
 
 std::size_t NameEnds::EndOf(std::size_t begin) {
@@ -59,21 +67,20 @@ std::size_t NameEnds::EndOf(std::size_t begin) {
   return EndByMarkers(begin);
 }
 
-// Only the end of the last object that a name could have in this line bounds the reading of plain JSON, which
-// stops at its first error. JsonCpp looks for a place to go on after an error: so that many broken names in a
-// long line take time in proportion to its length, it gets no more than a window after the brace.
+// Reading plain JSON stops at its first error. JsonCpp looks for a place to go on after an error: so that
+// many broken names in a long line take time in proportion to its length, it gets no more than a window after
+// the brace, and in all no more than a multiple of the line.
 std::size_t NameEnds::EndAfterObject(std::size_t object_begin) {
   constexpr std::size_t kWindow = 1 << 14;
-  constexpr std::size_t kMostInVain = 64;  // times the length of the line
-  if (last_object_end_ == kNone) last_object_end_ = LastObjectEndIn(0, line_.size());
-  if (last_object_end_ <= object_begin) return kNone;
-  const std::string_view text = line_.substr(object_begin, last_object_end_ - object_begin);
+  const std::size_t last = LastObjectEndIn(object_begin, line_.size());
+  if (last == 0) return kNone;
+  const std::string_view text = line_.substr(object_begin, last - object_begin);
   PayloadNodes plain;
   if (plain.ReadPlain(text)) return EndOfTail(object_begin + plain.ObjectEnd(text));
-  if (read_in_vain_ > kMostInVain * line_.size()) return kNone;
-  const std::size_t limit = LastObjectEndIn(object_begin, std::min(last_object_end_, object_begin + kWindow));
-  if (limit == 0) return kNone;
-  const std::string_view window = line_.substr(object_begin, limit - object_begin);
+  const std::size_t end = LastObjectEndIn(object_begin, std::min(last, object_begin + kWindow));
+  const std::size_t most_in_vain = std::max(4 * kWindow, 2 * line_.size());
+  if (end == 0 || !CouldBeginObject(text) || read_in_vain_ > most_in_vain) return kNone;
+  const std::string_view window = line_.substr(object_begin, end - object_begin);
   PayloadNodes payload;
   if (payload.Read(window)) return EndOfTail(object_begin + payload.ObjectEnd(window));
   read_in_vain_ += window.size();
@@ -87,14 +94,15 @@ std::size_t NameEnds::EndOfTail(std::size_t object_end) const {
 }
 
 // The end of the last brace in a stretch of the line after which a name could end; 0 when there is none.
-std::size_t NameEnds::LastObjectEndIn(std::size_t begin, std::size_t end) const {
-  std::string_view stretch = line_.substr(begin, end - begin);
-  for (;;) {
-    const std::size_t brace = stretch.rfind('}');
-    if (brace == kNone) return 0;
-    if (TailLength(line_.substr(begin + brace + 1)) != 0) return begin + brace + 1;
-    stretch = stretch.substr(0, brace);
+std::size_t NameEnds::LastObjectEndIn(std::size_t begin, std::size_t end) {
+  if (!object_ends_) {
+    object_ends_.emplace();
+    for (std::size_t at = line_.find('}', begin); at != kNone; at = line_.find('}', at + 1)) {
+      if (TailLength(line_.substr(at + 1)) != 0) object_ends_->push_back(at + 1);
+    }
   }
+  const auto after = std::upper_bound(object_ends_->begin(), object_ends_->end(), end);
+  return after == object_ends_->begin() || *std::prev(after) <= begin ? 0 : *std::prev(after);
 }
 
 std::size_t NameEnds::EndByMarkers(std::size_t begin) const {

@@ -2,7 +2,9 @@
 #define KAVRIX_INSPECT_NAME_END_H_
 
 #include <cstddef>
+#include <optional>
 #include <string_view>
+#include <vector>
 
 namespace kavrix::inspect {
 
@@ -27,12 +29,12 @@ class NameEnds {
   std::size_t EndAfterObject(std::size_t object_begin);
   std::size_t EndOfTail(std::size_t object_end) const;
   std::size_t EndByMarkers(std::size_t begin) const;
-  std::size_t LastObjectEndIn(std::size_t begin, std::size_t end) const;
+  std::size_t LastObjectEndIn(std::size_t begin, std::size_t end);
 
   const std::string_view line_;
   const std::string_view prefix_;
-  std::size_t last_object_end_ = std::string_view::npos;  // in the whole line; npos: not looked for yet
-  std::size_t read_in_vain_ = 0;                          // bytes given to JsonCpp that were no object
+  std::optional<std::vector<std::size_t>> object_ends_;  // where a name could end its object; none: unknown
+  std::size_t read_in_vain_ = 0;                         // bytes given to JsonCpp that were no object
 };
 
 }  // namespace kavrix::inspect

@@ -46,6 +46,8 @@ void NameExtractor::Extract(std::string_view lines, std::vector<ExtractedName>& 
   errors_ = &errors;
   format_ == LogLines::kJson ? ExtractJson(lines) : ExtractText(lines);
   bytes_before_ += lines.size();
+  const std::size_t last_newline = lines.rfind('\n');
+  if (last_newline != kNone) line_begin_ = bytes_before_ - (lines.size() - last_newline - 1);
 }
 
 // Looks only at lines that hold the prefix.
@@ -60,7 +62,8 @@ void NameExtractor::ExtractText(std::string_view lines) {
     counted = begin;
     const std::string_view text = WithoutReturn(lines.substr(begin, end - begin));
     const Line line = {text, counts ? lines_before_ + 1 : 0, bytes_before_ + begin, bytes_before_ + end};
-    ExtractLine(text, at - begin, line, [](std::size_t place) { return place; });
+    const std::size_t cut = BytesCutOff(begin);
+    ExtractLine(text, at - begin, line, [cut](std::size_t place) { return cut + place; });
     at = end == lines.size() ? kNone : FindWord(lines, prefix_, end + 1);
   }
   if (counts) lines_before_ += NewlinesIn(lines.substr(counted));
@@ -69,24 +72,35 @@ void NameExtractor::ExtractText(std::string_view lines) {
 void NameExtractor::ExtractJson(std::string_view lines) {
   for (std::size_t begin = 0; begin < lines.size();) {
     const std::size_t end = LineEnd(lines, begin);
-    ++lines_before_;
-    ExtractJsonLine({WithoutReturn(lines.substr(begin, end - begin)), lines_before_, bytes_before_ + begin,
-                     bytes_before_ + end});
+    ExtractJsonLine({WithoutReturn(lines.substr(begin, end - begin)), lines_before_ + 1,
+                     bytes_before_ + begin, bytes_before_ + end},
+                    BytesCutOff(begin));
+    if (end < lines.size()) ++lines_before_;
     begin = end + 1;
   }
 }
 
+// How many bytes of the line that begins at `begin` of a block came with the blocks before.
+std::size_t NameExtractor::BytesCutOff(std::size_t begin) const {
+  return begin == 0 ? bytes_before_ - line_begin_ : 0;
+}
+
 // A text of several lines holds names as those lines would.
-void NameExtractor::ExtractJsonLine(const Line& line) {
-  if (const auto error = FindErrorInJsonLine(line.text)) errors_->push_back({line.number, *error});
+void NameExtractor::ExtractJsonLine(const Line& line, std::size_t cut) {
+  if (auto error = FindErrorInJsonLine(line.text)) {
+    error->at += cut;
+    errors_->push_back({line.number, *error});
+  }
   for (JsonTexts texts(line.text); texts.Next();) {
     const std::string_view text = texts.text();
     for (std::size_t begin = 0; begin < text.size();) {
       const std::size_t end = LineEnd(text, begin);
       const std::string_view part = WithoutReturn(text.substr(begin, end - begin));
+      const Line part_line = {part, line.number, line.begin + begin,
+                              end == text.size() ? line.end : line.begin + end};
       const std::size_t first = FindWord(part, prefix_, 0);
-      const auto place_of = [&](std::size_t place) { return texts.PlaceOf(begin + place); };
-      if (first != kNone) ExtractLine(part, first, line, place_of);
+      const auto place_of = [&](std::size_t place) { return cut + texts.PlaceOf(begin + place); };
+      if (first != kNone) ExtractLine(part, first, part_line, place_of);
       begin = end + 1;
     }
   }
@@ -125,7 +139,7 @@ bool NameExtractor::ExtractRequest(std::string_view text, const OwnLine& own, co
   }
   const std::size_t end = NameEnds(rest, prefix_).EndOf(0);
   name = rest.substr(0, end);
-  const bool is_told_not_valid = rest.substr(end) == kNotValidTail;
+  const bool is_told_not_valid = EndsWith(rest, kNotValidTail);
   return !requests_.Repeats(own, name, is_told_not_valid, line.begin, line.end);
 }
 

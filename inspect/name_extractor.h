@@ -37,7 +37,8 @@ class NameExtractor {
   // The prefix of the process must not be empty, and must not change meanwhile.
   explicit NameExtractor(LogLines lines);
 
-  // Seeks names in whole lines, those that come after the lines of the call before. Appends them to `names`.
+  // Seeks names in the lines that come after those of the call before, and appends them to `names`. A line
+  // that does not end with the block is sought in as if it did, and goes on with the next block.
   void Extract(std::string_view lines, std::vector<ExtractedName>& names, std::vector<LineError>& errors);
 
  private:
@@ -45,7 +46,8 @@ class NameExtractor {
 
   void ExtractText(std::string_view lines);
   void ExtractJson(std::string_view lines);
-  void ExtractJsonLine(const Line& line);
+  void ExtractJsonLine(const Line& line, std::size_t cut);
+  std::size_t BytesCutOff(std::size_t begin) const;
   template <class PlaceOf>
   void ExtractLine(std::string_view text, std::size_t first, const Line& line, PlaceOf place_of);
   bool ExtractRequest(std::string_view text, const OwnLine& own, const Line& line, std::string& name);
@@ -55,6 +57,7 @@ class NameExtractor {
   RepeatedRequests requests_;
   std::size_t bytes_before_ = 0;  // of the lines of all calls before
   std::size_t lines_before_ = 0;
+  std::size_t line_begin_ = 0;  // where in the whole text the line begins that a block may go on with
   std::vector<ExtractedName>* names_ = nullptr;
   std::vector<LineError>* errors_ = nullptr;
 };

@@ -23,6 +23,13 @@ bool IsWrittenByFormatLogLine(std::string_view before_message) {
          std::count(before_message.begin(), before_message.end(), ' ') == kFields;
 }
 
+// Whether all of `text` is the context's name: the messages of other records hold texts of names, which could
+// hold anything.
+bool IsContext(std::string_view text) {
+  const std::size_t end = text.find(']');
+  return end == std::string_view::npos || text.find_first_of(" \"{", end) == std::string_view::npos;
+}
+
 // Appends what the escape at the beginning of `rest` stands for, and takes it off; a backslash that begins
 // none stands for itself.
 void AppendMeaning(std::string_view& rest, std::string& text) {
@@ -57,9 +64,10 @@ std::optional<OwnLine> ReadOwnLine(std::string_view line, std::size_t limit) {
   own.is_request = Holds(before, "GetBubbleDrawDescriptor");
   own.is_repeat =
       Holds(before, "ParseEtaBubbleResourceName") || Holds(before, "KavrixMapLayerMgr_DestNameEta");
-  const std::size_t context_end = line.find(']', head + kHead.size());
-  if (context_end != std::string_view::npos && StartsWith(line.substr(context_end), kRequest)) {
-    own.name_begin = context_end + kRequest.size();
+  const std::string_view context_and_message = line.substr(head + kHead.size());
+  const std::size_t request = context_and_message.find(kRequest);
+  if (request != std::string_view::npos && IsContext(context_and_message.substr(0, request))) {
+    own.name_begin = head + kHead.size() + request + kRequest.size();
   }
   return own;
 }

@@ -83,6 +83,9 @@ void SurveyReport::Add(const std::string& resource_name, const SurveyedName& sur
 }
 
 void SurveyReport::Merge(const SurveyReport& other) {
+  if (other.Names() > kMostNames - Names()) {
+    throw ReportError("more than " + std::to_string(kMostNames) + " names in all");
+  }
   for (std::size_t i = 0; i < kKinds; ++i) {
     Kind& kind = kinds_[i];
     const Kind& added = other.kinds_[i];

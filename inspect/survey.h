@@ -42,11 +42,15 @@ class SurveyReport {
     std::map<std::string, std::string> examples;    // by code: the least name by length, then by bytes
   };
 
+  // The most names of a report: the greatest number that every reader of JSON keeps.
+  static constexpr std::uint64_t kMostNames = std::uint64_t{1} << 53;
+
   // Reads what ToJsonLine wrote. Throws ReportError.
   static SurveyReport Read(std::string_view json);
 
   // Counts a name. Its bytes that are not UTF-8 become U+FFFD in examples.
   void Add(const std::string& resource_name, const SurveyedName& surveyed);
+  // Throws ReportError, and changes nothing, when there would be more names than a report can count.
   void Merge(const SurveyReport& other);
   void DropExamples();
 

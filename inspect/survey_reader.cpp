@@ -10,8 +10,6 @@
 namespace kavrix::inspect {
 namespace {
 
-constexpr Json::UInt64 kMostNames = Json::UInt64{1} << 53;  // what every reader of JSON keeps exactly
-
 std::string Quoted(const std::string& key) { return '"' + key + '"'; }
 
 // One object of a report, and where it stands: "kinds.trafficBubble".
@@ -35,10 +33,11 @@ class ReportObject {
 
   ReportObject Object(const std::string& key) const { return {value_[key], PlaceOf(key)}; }
 
-  std::uint64_t Count(const std::string& key, std::uint64_t most) const {
+  std::uint64_t Count(const std::string& key, std::uint64_t least, std::uint64_t most) const {
     const Json::Value& count = value_[key];
-    if (!count.isUInt64() || count.type() == Json::realValue || count.asUInt64() > most) {
-      FailAt(PlaceOf(key), "expected a count from 0 to " + std::to_string(most));
+    if (!count.isUInt64() || count.type() == Json::realValue || count.asUInt64() < least ||
+        count.asUInt64() > most) {
+      FailAt(PlaceOf(key), "expected a count from " + std::to_string(least) + " to " + std::to_string(most));
     }
     return count.asUInt64();
   }
@@ -62,15 +61,15 @@ class ReportObject {
 
 std::map<std::string, std::uint64_t> ReadCounts(const ReportObject& object, std::uint64_t most) {
   std::map<std::string, std::uint64_t> counts;
-  for (const std::string& key : object.Keys()) counts[key] = object.Count(key, most);
+  for (const std::string& key : object.Keys()) counts[key] = object.Count(key, 1, most);
   return counts;
 }
 
 SurveyReport::Kind ReadKind(const ReportObject& object) {
   object.RequireKeys({"names", "failed", "problems", "styles", "examples"});
   SurveyReport::Kind kind;
-  kind.names = object.Count("names", kMostNames);
-  kind.failed = object.Count("failed", kind.names);
+  kind.names = object.Count("names", 1, SurveyReport::kMostNames);
+  kind.failed = object.Count("failed", 0, kind.names);
   kind.problems = ReadCounts(object.Object("problems"), kind.names);
   kind.styles = ReadCounts(object.Object("styles"), kind.names);
   const ReportObject examples = object.Object("examples");
@@ -111,7 +110,7 @@ SurveyReport SurveyReport::Read(std::string_view json) {
   for (const std::string& name : kinds.Keys()) {
     report.kinds_[PlaceOfKind(name, kinds)] = ReadKind(kinds.Object(name));
   }
-  if (report.Names() != root.Count("names", kMostNames)) {
+  if (report.Names() != root.Count("names", 0, kMostNames)) {
     root.Fail("names: expected the sum of the kinds, " + std::to_string(report.Names()));
   }
   return report;

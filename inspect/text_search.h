@@ -11,6 +11,10 @@ inline bool StartsWith(std::string_view text, std::string_view start) {
   return text.substr(0, start.size()) == start;
 }
 
+inline bool EndsWith(std::string_view text, std::string_view end) {
+  return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
+}
+
 // Finds the first `word` in `text`, at `from` or after it; npos when there is none.
 inline std::size_t FindWord(std::string_view text, std::string_view word, std::size_t from) {
 #if defined(__unix__) || defined(__APPLE__) || defined(__EMSCRIPTEN__)

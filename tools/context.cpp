@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "config/bubble_layer_config_file.h"
+#include "map_resource/map_resource_manager.h"
 #include "tools/samples.h"
 #include "tools/streams.h"
 
@@ -17,6 +18,10 @@ inspect::TransformSetup FromFile(BubbleLayerConfigFile file, const std::optional
 }
 
 }  // namespace
+
+void SetPrefix(const std::optional<std::string>& prefix) {
+  if (prefix) MapResourceManager::kavrix_resource_prefix = prefix->c_str();
+}
 
 inspect::TransformSetup LoadDefaultConfig(const std::optional<std::string>& context_name) {
   return FromFile(ParseBubbleLayerConfig(kDefaultConfig), context_name);

@@ -8,6 +8,9 @@
 
 namespace kavrix::tools {
 
+// Sets the prefix of the process, if one is given; it must outlive all that use it.
+void SetPrefix(const std::optional<std::string>& prefix);
+
 // Loads the configuration that is compiled in.
 inspect::TransformSetup LoadDefaultConfig(const std::optional<std::string>& context_name = {});
 

@@ -5,8 +5,8 @@
 #include <stdexcept>
 
 #include "map_resource/bubble_kinds.h"
-#include "map_resource/map_resource_manager.h"
 #include "tools/bulk.h"
+#include "tools/context.h"
 #include "tools/suggestion.h"
 #include "util/json_value.h"
 #include "util/strict_json.h"
@@ -51,7 +51,7 @@ std::string Ended(const std::string& name, char end) {
 }
 
 int Run(const EncodeOptions& options) {
-  if (options.prefix) MapResourceManager::kavrix_resource_prefix = options.prefix->c_str();
+  SetPrefix(options.prefix);
   if (!options.bulk.names.empty() && !options.kind) {
     throw UsageError("FIELDS on the command line need --kind");
   }

@@ -34,9 +34,10 @@ std::string ToJsonLine(const InputName& name) {
 }
 
 int Run(const ExtractOptions& options) {
-  options.logs.Apply();
+  options.logs.Apply(true);
   TextNames::Options text_options;
   text_options.are_logs = true;
+  text_options.tells_of_hidden_names = true;
   text_options.log_lines = options.Lines();
   text_options.unique = options.unique;
   TextNames names(options.logs.Paths(), text_options);
@@ -44,7 +45,8 @@ int Run(const ExtractOptions& options) {
   const auto print = [&](InputName name) -> NameResult {
     if (as_json) return {ToJsonLine(name), false, ""};
     if (name.name.find('\n') == std::string::npos) return {std::move(name.name) + '\n', false, ""};
-    return {"", true, "it holds a newline, which would end it here; --format json prints it"};
+    return {"", true,
+            "in " + name.file + ": it holds a newline, which would end it; --format json prints it"};
   };
   const bool lacks_any = WorkInBulk(names, options.logs.bulk, print) > 0;
   return lacks_any || names.HadTrouble() ? 2 : 0;
@@ -62,9 +64,13 @@ CommandDescription ExtractCommand() {
                    "Output format: text, one name a line, or json, with file, line and byte");
     command.Flag("--unique", options->unique, "Print each name once, where it is first; keeps all in memory");
     command.Footer(
-        "A name begins with the prefix and ends as the library reads it: after its object, or after its\n"
-        "direction. In the library's own log (\"[Kavrix][...]\") each request counts once, although several\n"
-        "records hold its name.\n"
+        "A name begins with the prefix. It ends with the marker after its object, which is read as the "
+        "decoder\n"
+        "reads it; without an object, with the first marker after \"@\" and a number, else with the last "
+        "marker\n"
+        "before the next name, else with the line. In the library's own log (\"[Kavrix][...]\") each "
+        "request\n"
+        "counts once, although several records hold its name.\n"
         "Lines count from 1, bytes in the line from 0.\n"
         "Exit status: 0, also when there is no name; 2 usage, input or output error. A file that cannot be\n"
         "read does not stop the others.");

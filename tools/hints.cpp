@@ -4,14 +4,11 @@
 #include <string_view>
 #include <system_error>
 
+#include "inspect/text_search.h"
 #include "map_resource/map_resource_manager.h"
 
 namespace kavrix::tools {
 namespace {
-
-bool EndsWith(std::string_view text, std::string_view end) {
-  return text.size() >= end.size() && text.substr(text.size() - end.size()) == end;
-}
 
 bool IsFile(const std::string& name) {
   std::error_code error;
@@ -25,7 +22,7 @@ std::string Hints::For(const std::string& name) {
   if (IsFile(name)) {
     return "\"" + name + "\" is a file; names are read from one with \"< " + name + "\"";
   }
-  if (!options_.marker && EndsWith(name, kMarkerNameTail) && !told_of_marker_.exchange(true)) {
+  if (!options_.marker && inspect::EndsWith(name, kMarkerNameTail) && !told_of_marker_.exchange(true)) {
     return "names that end in \".marker\" are marker names, which need --marker";
   }
   const std::string_view prefix = MapResourceManager::kavrix_resource_prefix;

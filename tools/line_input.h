@@ -18,7 +18,7 @@ class LineInput {
  public:
   struct Options {
     char delimiter = '\n';
-    // A longer line is cut, as if it ended there, unless it is in the buffer as a whole.
+    // A longer line may be cut, as if it ended there.
     std::size_t longest_line = std::numeric_limits<std::size_t>::max();
     std::size_t buffer_size = 1 << 17;  // stays in the processor's cache
   };

@@ -1,6 +1,7 @@
 #include "tools/log_options.h"
 
-#include "map_resource/map_resource_manager.h"
+#include "inspect/json_error.h"
+#include "tools/context.h"
 
 namespace kavrix::tools {
 
@@ -8,10 +9,13 @@ std::vector<std::string> LogOptions::Paths() const {
   return files.empty() ? std::vector<std::string>{"-"} : files;
 }
 
-void LogOptions::Apply() const {
-  if (!prefix) return;
-  if (prefix->empty()) throw UsageError("--prefix is empty; names are found by it");
-  MapResourceManager::kavrix_resource_prefix = prefix->c_str();
+void LogOptions::Apply(bool finds_names) const {
+  const bool is_sought = finds_names && prefix;
+  if (is_sought && prefix->empty()) throw UsageError("--prefix is empty; names are found by it");
+  if (is_sought && prefix->find_first_of(inspect::kJsonBlanks) != std::string::npos) {
+    throw UsageError("--prefix holds a blank or the end of a line; no name can be found by it");
+  }
+  SetPrefix(prefix);
 }
 
 void AddLogOptions(Command& command, LogOptions& options, const std::string& help,

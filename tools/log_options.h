@@ -21,8 +21,9 @@ struct LogOptions {
   // The files to read: those that are given, else standard input.
   std::vector<std::string> Paths() const;
 
-  // Sets the prefix of the process. Throws UsageError for an empty one, which would begin everywhere.
-  void Apply() const;
+  // Sets the prefix of the process. With `finds_names`, throws UsageError for one that cannot be sought in
+  // lines.
+  void Apply(bool finds_names) const;
 };
 
 // `help` is of the files, `json_help` of --json.

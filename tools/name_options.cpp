@@ -1,6 +1,5 @@
 #include "tools/name_options.h"
 
-#include "map_resource/map_resource_manager.h"
 #include "tools/context.h"
 
 namespace kavrix::tools {
@@ -10,7 +9,7 @@ bool NameOptions::IsAnyGivenBesidesNames() const {
 }
 
 inspect::TransformSetup NameOptions::Apply() const {
-  if (prefix) MapResourceManager::kavrix_resource_prefix = prefix->c_str();
+  SetPrefix(prefix);
   return config_path ? LoadConfig(*config_path, context_name) : LoadDefaultConfig(context_name);
 }
 

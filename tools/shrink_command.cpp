@@ -9,6 +9,7 @@
 #include "inspect/explain.h"
 #include "inspect/json_writer.h"
 #include "inspect/shrink.h"
+#include "tools/format_option.h"
 #include "tools/name_options.h"
 #include "tools/text_output.h"
 
@@ -40,14 +41,13 @@ CommandDescription ShrinkCommand() {
   const auto list_options = [](Command& command) -> std::function<int()> {
     const auto options = std::make_shared<ShrinkOptions>();
     AddNameOptions(command, options->names);
-    options->format = "text";
-    command.Choice("--format", options->format, {"text", "json"},
-                   "Output format: text, the name, or json, its decode and the codes of its problems");
+    AddFormatOption(command, options->format, {"text", "json"});
     command.Footer(
         "Prints the smallest name found that fails in the same way: it is of the same kind, its first error\n"
         "has the same code, and it has no problem of another code than the name. --format json prints what\n"
-        "decode does, with the codes: a line for a collection of tests.\n"
-        "Exit status, as of decode: 1 names fail, and were shrunk; 0 none does; 2 usage, input or output\n"
+        "decode does, with the codes of its problems: a line for a collection of tests.\n"
+        "Exit status, as of decode: 0 no name fails; 1 a name does, and was shrunk; 2 usage, input or "
+        "output\n"
         "error.");
     return [options] { return Run(*options); };
   };

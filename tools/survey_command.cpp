@@ -36,10 +36,11 @@ struct Result {
 };
 
 Result SurveyNames(const SurveyOptions& options) {
-  options.logs.Apply();
+  options.logs.Apply(options.extract);
   TextNames::Options text_options;
   text_options.null_delimited = options.null_delimited;
   text_options.are_logs = options.extract;
+  text_options.tells_of_hidden_names = true;
   if (options.logs.json) text_options.log_lines = inspect::LogLines::kJson;
   TextNames names(options.logs.Paths(), text_options);
   const EntryPoint entry_point = options.marker ? EntryPoint::kMarker : EntryPoint::kBubble;
@@ -149,7 +150,7 @@ CommandDescription SurveyCommand() {
         "style record. An example is the shortest name with the problem, the first by its bytes of those.\n"
         "Reports merge in any order and grouping to the report of all their names.\n"
         "Exit status: 0, whatever failed; 2 usage, input or output error. A file or report that cannot be\n"
-        "read is left out, and does not stop the others.");
+        "read does not stop the others; a report that is not sound is left out.");
     return [options] { return Run(*options); };
   };
   return {"survey", "Count kinds, failures, problems and style records of many names", list_options};

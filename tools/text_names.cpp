@@ -6,13 +6,18 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
+#include <system_error>
 
+#include "inspect/text_search.h"
 #include "tools/error_line.h"
 #include "tools/line_input.h"
 #include "tools/streams.h"
 
 namespace kavrix::tools {
 namespace {
+
+using inspect::StartsWith;
 
 constexpr std::size_t kLongestLine = std::size_t{1} << 28;
 
@@ -39,17 +44,22 @@ class OpenFile {
 
 std::string InMessages(const std::string& path) { return path == "-" ? "standard input" : path; }
 
-// The size of all files; none when that of one is unknown.
+// The size of all files; none when that of one is unknown. A pipe is not opened for it: what was written to
+// it could be lost.
 std::optional<std::uint64_t> SizeOf(const std::vector<std::string>& paths) {
   std::uint64_t size = 0;
   for (const std::string& path : paths) {
-    try {
-      const std::optional<std::uint64_t> bytes = BytesLeft(OpenFile(path).descriptor());
+    if (path == "-") {
+      const std::optional<std::uint64_t> bytes = BytesLeft(STDIN_FILENO);
       if (!bytes) return std::nullopt;
       size += *bytes;
-    } catch (const StreamError&) {
-      continue;  // told of when its turn comes
+      continue;
     }
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error)) return std::nullopt;
+    const std::uintmax_t bytes = std::filesystem::file_size(path, error);
+    if (error) return std::nullopt;
+    size += bytes;
   }
   return size;
 }
@@ -63,12 +73,14 @@ const char* HidingFormat(std::string_view first) {
       {"\xFD"
        "7zXZ\0"sv,
        "compressed by xz; read it with xzcat"},
-      {"BZh"sv, "compressed by bzip2; read it with bzcat"},
       {"\xFF\xFE"sv, "UTF-16; read it with iconv -f UTF-16 -t UTF-8"},
       {"\xFE\xFF"sv, "UTF-16; read it with iconv -f UTF-16 -t UTF-8"},
   };
+  constexpr std::size_t kBzip2Level = 3;  // "BZh", the level, the beginning of a block
+  const bool is_bzip2 = StartsWith(first, "BZh") && StartsWith(first.substr(kBzip2Level + 1), "1AY&SY");
+  if (is_bzip2) return "compressed by bzip2; read it with bzcat";
   for (const auto& [magic, format] : kFormats) {
-    if (first.substr(0, magic.size()) == magic) return format;
+    if (StartsWith(first, magic)) return format;
   }
   return "";
 }
@@ -80,9 +92,15 @@ struct TextNames::File {
   File(const std::string& given_path, const Options& options, const std::atomic<bool>& interrupted)
       : path(given_path),
         file(given_path),
-        input(file.descriptor(), InMessages(given_path),
-              {options.null_delimited ? '\0' : '\n', kLongestLine, 1 << 17}, interrupted),
+        input(file.descriptor(), InMessages(given_path), InputOptions(options), interrupted),
         extractor(options.log_lines) {}
+
+  static LineInput::Options InputOptions(const Options& options) {
+    LineInput::Options input_options;
+    if (options.null_delimited) input_options.delimiter = '\0';
+    if (options.are_logs) input_options.longest_line = kLongestLine;
+    return input_options;
+  }
 
   const std::string path;
   const OpenFile file;
@@ -120,7 +138,9 @@ bool TextNames::Fill() {
         file_ = nullptr;
         continue;
       }
+      if (file_->bytes == 0) RequireText(lines);
       options_.are_logs ? ReadLog(lines) : ReadLines(lines);
+      file_->bytes += lines.size();
       bytes_taken_ += lines.size();
     } catch (const StreamError& error) {
       Tell(error.what());
@@ -155,19 +175,22 @@ void TextNames::ReadLines(std::string_view lines) {
   }
 }
 
-void TextNames::ReadLog(std::string_view lines) {
-  const char* const format = file_->bytes == 0 ? HidingFormat(lines) : "";
+// Throws StreamError when the file's first bytes say that it is none.
+void TextNames::RequireText(std::string_view first) const {
+  const char* const format = options_.tells_of_hidden_names ? HidingFormat(first) : "";
   if (*format != '\0') throw StreamError(InMessages(file_->path) + ": no text: it is " + format);
+}
+
+void TextNames::ReadLog(std::string_view lines) {
   if (file_->input.IsCut()) {
     Tell(InMessages(file_->path) + ": the line at byte " + std::to_string(file_->bytes) +
-         " is longer than 256 MiB; it is read as if it ended there");
+         " is longer than 256 MiB; it is read in pieces, as if it ended there");
   }
-  file_->bytes += lines.size();
   std::vector<inspect::ExtractedName> names;
   std::vector<inspect::LineError> errors;
   file_->extractor.Extract(lines, names, errors);
   for (const inspect::LineError& error : errors) {
-    Tell(InMessages(file_->path) + ":" + std::to_string(error.line) + ":" + std::to_string(error.error.at) +
+    Tell(file_->path + ":" + std::to_string(error.line) + ":" + std::to_string(error.error.at) +
          ": not JSON: expected " + error.error.expected);
   }
   for (inspect::ExtractedName& name : names) Add(std::move(name.name), name.line, name.byte);

@@ -25,7 +25,8 @@ class TextNames : public NameSource {
     bool null_delimited = false;  // names end in NUL, not newline
     bool are_logs = false;        // names stand somewhere in the text; else they are one a line
     inspect::LogLines log_lines = inspect::LogLines::kText;
-    bool unique = false;  // each name once, which keeps all of them in memory
+    bool tells_of_hidden_names = false;  // of files that are no text, such as compressed ones
+    bool unique = false;                 // each name once, which keeps all of them in memory
   };
 
   // `paths` must not be empty.
@@ -48,6 +49,7 @@ class TextNames : public NameSource {
   bool OpenNext();
   void ReadLines(std::string_view lines);
   void ReadLog(std::string_view lines);
+  void RequireText(std::string_view first) const;
   void Add(std::string name, std::size_t line, std::size_t byte);
   void Tell(const std::string& message);
 

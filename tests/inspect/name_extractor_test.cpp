@@ -3,8 +3,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <iterator>
+#include <random>
+
+#include "inspect/own_log.h"
 #include "map_resource/bubble_markers.h"
 #include "map_resource/map_resource_manager.h"
+#include "tests/support/effort.h"
+#include "util/escape.h"
 
 namespace kavrix::test {
 namespace {
@@ -198,7 +204,9 @@ TEST(NameExtractorTest, OtherRecordsOfTheOwnLogHoldNone) {
   }
 }
 
-TEST(NameExtractorTest, ContextOfTheOwnLogMayBeEmpty) {
+TEST(NameExtractorTest, ContextOfTheOwnLogMayBeEmptyAndHoldABracket) {
+  EXPECT_THAT(Extract("[Kavrix][a]b]resource_name:" + kPrefix + "x\n"), ElementsAre(kPrefix + "x"));
+  EXPECT_THAT(Extract("[Kavrix][a b]resource_name:" + kPrefix + "x\n"), ElementsAre(kPrefix + "x"));
   EXPECT_THAT(Extract("[Kavrix][]resource_name:" + kPrefix + "x\n"), ElementsAre(kPrefix + "x"));
 }
 
@@ -245,6 +253,13 @@ TEST(NameExtractorTest, RejectionOfANameCountsOnlyWithoutTheRecordBeforeIt) {
   EXPECT_THAT(Extract(request + "other\n" + rejection), ElementsAre(kPrefix + "foo", kPrefix + "foo"));
   EXPECT_THAT(Extract(request + rejection + request + rejection),
               ElementsAre(kPrefix + "foo", kPrefix + "foo"));
+}
+
+TEST(NameExtractorTest, RejectionOfANameThatEndsBeforeTheLineDoesNotCountAgain) {
+  for (const std::string rest : {"a.markerxyz", "a kavrix://resource/b", R"({"a":1}x@3.markers)"}) {
+    const std::string request = kOwn + kPrefix + rest;
+    EXPECT_EQ(Extract(request + "\n" + request + ", it is a not valid bubble.\n").size(), 1U) << rest;
+  }
 }
 
 TEST(NameExtractorTest, RepeatsAreKnownFromOneCallToTheNext) {
@@ -299,8 +314,46 @@ TEST(NameExtractorTest, LineThatIsNoJsonIsToldOfAndSearchedAllTheSame) {
       LogLines::kJson);
   EXPECT_THAT(extracted.names, ElementsAre("5:8 " + kPrefix + "half", "7:6 " + kPrefix + "\\q.turnBubble"));
   EXPECT_THAT(extracted.errors,
-              ElementsAre("2:0 a value", "5:30 the closing quote of the string", "6:8 ',' or '}'",
+              ElementsAre("2:0 a value", "5:30 the closing quote of the string", "6:8 the end of the line",
                           "7:25 one of \" \\ / b f n r t u after the backslash"));
+}
+
+TEST(NameExtractorTest, LineOfJsonIsOneValue) {
+  for (const std::string line :
+       {"1", " [1, {}] ", "\"a\"", "null", "{}", " {\"a\":1700000000000000000} ", "", "-0.5e3"}) {
+    EXPECT_THAT(ExtractWithPlaces(line, LogLines::kJson).errors, IsEmpty()) << line;
+  }
+  const std::vector<std::pair<std::string, std::string>> errors = {
+      {"1, 2", "1:0 one value in the line"}, {"1,\"a\":2", "1:5 ',' or ']'"},
+      {"{} {}", "1:3 the end of the line"},  {"{\"a\":1}, \"b\":{}", "1:7 the end of the line"},
+      {"[1] 2", "1:4 ',' or ']'"},           {"x", "1:0 a value"}};
+  for (const auto& [line, error] : errors) {
+    EXPECT_THAT(ExtractWithPlaces(line, LogLines::kJson).errors, ElementsAre(error)) << line;
+  }
+}
+
+TEST(NameExtractorTest, LineThatComesInPiecesIsCountedOnce) {
+  for (const LogLines lines : {LogLines::kCountedText, LogLines::kJson}) {
+    NameExtractor extractor(lines);
+    std::vector<ExtractedName> names;
+    std::vector<LineError> errors;
+    const std::vector<std::string> pieces = {"{}\n[\"abc\",", "\"def\",",
+                                             "\" " + kPrefix + "1.turnBubble\"]\n",
+                                             "\"" + kPrefix + "2.turnBubble\""};
+    for (const std::string& piece : pieces) extractor.Extract(piece, names, errors);
+    ASSERT_EQ(names.size(), 2U);
+    EXPECT_EQ(names[0].line, 2U);
+    EXPECT_EQ(names[0].byte, 15U);
+    EXPECT_EQ(names[1].line, 3U);
+    EXPECT_EQ(names[1].byte, 1U);
+  }
+}
+
+TEST(NameExtractorTest, RepeatsInOneTextOfJsonDoNotCount) {
+  EXPECT_THAT(Extract("{\"m\":\"" + kOwn + kEtaName + "\\n" + kOwn + kEtaName + "\\n" + kOwn + kPrefix +
+                          "x\\n" + kOwn + kPrefix + "x, it is a not valid bubble.\"}\n",
+                      LogLines::kJson),
+              ElementsAre(kEtaName, kPrefix + "x"));
 }
 
 TEST(NameExtractorTest, EtaRepeatInJsonLinesDoesNotCount) {
@@ -310,11 +363,36 @@ TEST(NameExtractorTest, EtaRepeatInJsonLinesDoesNotCount) {
 
 // Reading to the end of the line from each prefix would take hours.
 TEST(NameExtractorTest, LongHostileLinesTakeTimeInProportion) {
-  for (const std::string& unit : {kPrefix + "{/*", kPrefix + "{\"", kPrefix + "{\"a\":\"",
-                                  kPrefix + "{\"\\u0061\":[1,", kPrefix + "{\"a\":01,\"b\":\""}) {
+  const std::string braces(20, '}');
+  for (const std::string& unit :
+       {kPrefix + "{/*", kPrefix + "{\"", kPrefix + "{\"a\":\"", kPrefix + "{\"\\u0061\":[1,", kPrefix + "{'",
+        kPrefix + "{\"a\":01,\"b\":\"", kPrefix + "{\"a\" \"", kPrefix + "{x" + braces,
+        kPrefix + "{}@1" + braces}) {
     std::string line;
-    for (int i = 0; i < 10'000; ++i) line += unit;
-    EXPECT_EQ(Extract(line + "}.trafficBubble\n").size(), 10'000U) << unit;
+    for (int i = 0; i < 20'000; ++i) line += unit;
+    EXPECT_EQ(Extract(line + "}.trafficBubble\n").size(), 20'000U) << unit;
+  }
+}
+
+TEST(NameExtractorTest, ManyNamesInOneTextOfJsonTakeTimeInProportion) {
+  std::string text;
+  for (int i = 0; i < 50'000; ++i) text += kPrefix + "x@1.etaBubble " + std::string(100, ' ');
+  EXPECT_EQ(Extract("\"" + text + "\"\n", LogLines::kJson).size(), 50'000U);
+  EXPECT_EQ(Extract("\"" + text + "\\n" + text + "\"\n", LogLines::kJson).size(), 100'000U);
+}
+
+TEST(NameExtractorTest, EscapesOfTheOwnLogAreTheOppositeOfThoseItWrites) {
+  std::mt19937 random(Seed());
+  for (int i = 0; i < 2000; ++i) {
+    std::string text;
+    for (std::size_t size = random() % 40; text.size() < size;) {
+      constexpr std::string_view kPieces[] = {"\\",   "n",        "x0",           "u00", "\n",   "\x1B",
+                                              "\xFF", "\xC2\x85", "\xE2\x80\xAE", "a",   "\xE4", "\""};
+      text += kPieces[random() % std::size(kPieces)];
+    }
+    std::string escaped;
+    AppendEscaped(escaped, text);
+    EXPECT_EQ(inspect::WithoutEscapes(escaped), text) << escaped;
   }
 }
 

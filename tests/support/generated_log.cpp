@@ -127,10 +127,11 @@ class Generator {
       sink = std::make_shared<MessageSink>(stream);
     }
     logging::SetLoggerInstance(logging::kavrix_log_instance_id_, {sink, {}, {}});
-    MapResourceTransform transform(std::make_shared<KavrixContext>("main-map"));
+    MapResourceTransform transform(std::make_shared<KavrixContext>(Below(2) == 0 ? "main-map" : "main]map"));
     std::vector<std::string> names;
     for (std::size_t i = Below(4); i < 4; ++i) {
-      names.push_back(Below(8) == 0 ? MapResourceManager::kavrix_resource_prefix + std::string("no marker")
+      names.push_back(Below(8) == 0 ? MapResourceManager::kavrix_resource_prefix +
+                                          std::string(Below(2) == 0 ? "no marker" : "a.markerx")
                                     : AnyName());
       if (Below(4) == 0) names.push_back(names.back());
     }
@@ -152,7 +153,10 @@ class Generator {
       const std::string head = "]resource_name:";
       const std::size_t place = line.find(head);
       if (place != std::string::npos && !expects_rejection && !expects_repeat) {
-        log_.names.push_back({*next_name, line_, place + head.size()});
+        const std::string marker_end = "a.marker";  // the name is read as a marker name that text follows
+        const bool is_cut = next_name->find(marker_end + "x") != std::string::npos;
+        log_.names.push_back(
+            {next_name->substr(0, next_name->size() - (is_cut ? 1 : 0)), line_, place + head.size()});
         expects_rejection = next_name->find("Bubble") == std::string::npos;
         expects_repeat = next_name->find(".etaBubble") != std::string::npos;
         ++next_name;

@@ -120,7 +120,7 @@ TEST_F(ExtractCommandTest, FilesThatHideTheirNamesAreToldOf) {
       {"\xFD"
        "7zXZ\0"s,
        "compressed by xz; read it with xzcat"},
-      {"BZh91AY", "compressed by bzip2; read it with bzcat"},
+      {"BZh91AY&SY", "compressed by bzip2; read it with bzcat"},
       {"\xFF\xFE"
        "a\0"s,
        "UTF-16; read it with iconv -f UTF-16 -t UTF-8"},
@@ -131,6 +131,21 @@ TEST_F(ExtractCommandTest, FilesThatHideTheirNamesAreToldOf) {
     EXPECT_EQ(result.output, name);
     EXPECT_EQ(result.errors, "kavrix-resource: " + file + ": no text: it is " + format + "\n");
     EXPECT_EQ(result.status, 2);
+  }
+}
+
+TEST_F(ExtractCommandTest, TextThatBeginsAlmostLikeACompressedFileIsText) {
+  EXPECT_EQ(RunTool({"extract"}, "BZhang says " + kPrefix + "1.turnBubble\n").output,
+            kPrefix + "1.turnBubble\n");
+}
+
+TEST_F(ExtractCommandTest, PipeWithANameLosesNothing) {
+  const std::string pipe = folder_ / "pipe";
+  for (int i = 0; i < 10; ++i) {
+    const ToolResult result = RunShell("[ -p " + pipe + " ] || mkfifo " + pipe + "; printf '" + kPrefix +
+                                       "1.turnBubble\n' > " + pipe + " & timeout 20 $TOOL extract " + pipe);
+    EXPECT_EQ(result.output, kPrefix + "1.turnBubble\n");
+    EXPECT_EQ(result.status, 0);
   }
 }
 
@@ -169,7 +184,7 @@ TEST_F(ExtractCommandTest, NameThatHoldsANewlineIsPrintedOnlyAsJson) {
   EXPECT_EQ(text.output, "");
   EXPECT_EQ(
       text.errors,
-      "kavrix-resource: name 1: it holds a newline, which would end it here; --format json prints it\n");
+      "kavrix-resource: name 1: in -: it holds a newline, which would end it; --format json prints it\n");
   EXPECT_EQ(text.status, 2);
   EXPECT_EQ(RunTool({"extract", "--format", "json"}, line).JsonLines().at(0).at("resource_name"),
             kPrefix + "{\"content\":\"a\nb\"}.trafficBubble");
@@ -182,6 +197,12 @@ TEST_F(ExtractCommandTest, PrefixCanBeAnother) {
   const ToolResult empty = RunTool({"extract", "--prefix", ""}, "a");
   EXPECT_EQ(empty.status, 2);
   EXPECT_THAT(empty.errors, StartsWith("kavrix-resource: --prefix is empty; names are found by it\n"));
+  for (const std::string prefix : {" ", "a\nb", "a\r"}) {
+    const ToolResult result = RunTool({"extract", "--prefix", prefix}, "a b\n");
+    EXPECT_EQ(result.status, 2);
+    EXPECT_THAT(result.errors,
+                StartsWith("kavrix-resource: --prefix holds a blank or the end of a line; no name "));
+  }
 }
 
 TEST_F(ExtractCommandTest, NamesGoOnToOtherCommands) {

@@ -209,6 +209,12 @@ TEST(SurveyCommandTest, ReportThatCannotBeReadIsToldOfByPlaceAndTheRestGoesOn) {
        "kinds: no kind is called \"someBubble\""},
       {R"({"report":1,"names":1,"kinds":{"none":{"names":1,"failed":2,"problems":{},"styles":{},"examples":{}}}})",
        "kinds.none.failed: expected a count from 0 to 1"},
+      {R"({"report":1,"names":0,"kinds":{"none":{"names":0,"failed":0,"problems":{},"styles":{},"examples":{}}}})",
+       "kinds.none.names: expected a count from 1 to 9007199254740992"},
+      {R"({"report":1,"names":1,"kinds":{"none":{"names":1,"failed":0,"problems":{"a":0},"styles":{},"examples":{}}}})",
+       "kinds.none.problems.a: expected a count from 1 to 1"},
+      {R"({"report":1,"names":9007199254740992,"kinds":{"none":{"names":9007199254740992,"failed":0,"problems":{},"styles":{},"examples":{}}}})",
+       "more than 9007199254740992 names in all"},
       {R"({"report":1,"names":1,"kinds":{"none":{"names":1,"failed":0,"problems":{},"styles":{},"examples":{"a":"b"}}}})",
        "kinds.none.examples: no problem is called \"a\""},
       {good.substr(0, good.size() / 2), "Line 1, Column "},
@@ -220,6 +226,23 @@ TEST(SurveyCommandTest, ReportThatCannotBeReadIsToldOfByPlaceAndTheRestGoesOn) {
     EXPECT_THAT(result.errors, HasSubstr("; this report is left out\n"));
     EXPECT_EQ(result.status, 2);
   }
+}
+
+TEST(SurveyCommandTest, CompressedFileIsToldOf) {
+  const ToolResult result = RunTool({"survey"}, "\x1F\x8B\x08\n");
+  EXPECT_EQ(result.errors,
+            "kavrix-resource: standard input: no text: it is compressed by gzip; read it with zcat\n");
+  EXPECT_EQ(result.output, Survey(""));
+  EXPECT_EQ(result.status, 2);
+}
+
+TEST(SurveyCommandTest, ReportsMergeFromSeveralFiles) {
+  const ToolResult result = RunShell(
+      "cd $(mktemp -d) && echo a | $TOOL survey > 1 && echo b.turnBubble | $TOOL survey > 2 && $TOOL survey "
+      "--merge 1 - 2 < 2 && "
+      "printf 'a\nb.turnBubble\nb.turnBubble\n' | $TOOL survey && rm -r $PWD");
+  ASSERT_EQ(result.Lines().size(), 2U);
+  EXPECT_EQ(result.Lines()[0], result.Lines()[1]);
 }
 
 TEST(SurveyCommandTest, FileThatCannotBeReadIsLeftOut) {
