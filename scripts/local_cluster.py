@@ -1,4 +1,4 @@
-"""A Dask cluster on the loopback address, for scripts/test-cluster, and what it takes to run programs and keep files."""
+"""A Dask cluster on the loopback address, for scripts/test-cluster, and what it takes to run programs."""
 
 import contextlib
 import json
