@@ -122,8 +122,8 @@ class Survey:
         block.future = None  # frees it
         for message in messages[:MOST_MESSAGES]:
             # The tool counts the line before the block.
-            message = re.sub(r"(?<=input:)\d+|(?<=line at byte )\d+", lambda at: str(int(at[0]) - 1), message)
-            self.tell(f"{block}: {message.replace('standard input:', 'line ', 1)}")
+            message = re.sub(r"(?<= -:)\d+|(?<=line at byte )\d+", lambda at: str(int(at[0]) - 1), message)
+            self.tell(f"{block}: {message.replace(' -:', ' line ', 1).replace('standard input: ', '', 1)}")
         if len(messages) > MOST_MESSAGES:
             self.tell(f"{block}: and more messages")
         self.done += 1
