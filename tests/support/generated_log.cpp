@@ -14,6 +14,8 @@
 namespace kavrix::test {
 namespace {
 
+using std::string_view_literals::operator""sv;
+
 // Writes the messages after a time, as a client does that logs neither tags nor functions.
 class MessageSink : public logging::LogSink {
  public:
@@ -63,7 +65,7 @@ class Generator {
         return AddLine(
             "no name here: http://resource/{\"mode\":0}.trafficBubble, kavrix:/resource/1.turnBubble");
       case 1:
-        return AddLine(std::string("binary \0 \xFF\xFE } @1.etaBubble", 29));
+        return AddLine(std::string("binary \0 \xFF\xFE } @1.etaBubble"sv));
       case 2:
         Text("marker ");
         Name(marker_names_[Below(marker_names_.size())]);
