@@ -12,7 +12,8 @@ namespace {
 // The length of the piece that `source` begins with: bytes without escapes, one escape, or a backslash that
 // begins none.
 std::size_t PieceLength(std::string_view source) {
-  if (source[0] != '\\') return std::min(source.find('\\'), source.size());
+  const std::size_t escape = source.find('\\');
+  if (escape != 0) return std::min(escape, source.size());
   return std::max<std::size_t>(EscapeLength(source), 1);
 }
 
