@@ -1,8 +1,10 @@
 #include "inspect/json_writer.h"
 
+#include <charconv>
 #include <cmath>
 #include <cstring>
 
+#include "inspect/shortest_real.h"
 #include "util/eight_bytes.h"
 #include "util/utf8.h"
 
@@ -36,7 +38,11 @@ void JsonWriter::Real(float value) {
   if (!std::isfinite(value)) return Null();
   if (value == 0 && std::signbit(value)) return Raw("-0.0");
   Separate();
+#ifdef __cpp_lib_to_chars
   text_.AppendNumber(value);
+#else
+  text_ += ShortestText(value);
+#endif
 }
 
 void JsonWriter::Text(std::string_view text) {
