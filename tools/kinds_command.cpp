@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "inspect/decoder.h"
-#include "inspect/json_writer.h"
+#include "inspect/kind_json.h"
 #include "map_resource/bubble_kinds.h"
 #include "tools/context.h"
 #include "tools/format_option.h"
@@ -40,16 +40,10 @@ std::string FirstSampleOf(const BubbleKindInfo& info) {
   return "";
 }
 
-std::vector<KeyInfo> KeysOf(const BubbleKindInfo& info) {
-  KeyLister lister;
-  info.codec.list_keys(lister);
-  return lister.keys();
-}
-
 std::vector<Kind> AllKinds() {
   std::vector<Kind> kinds;
   for (const BubbleKindInfo* const info : AllKindInfos()) {
-    kinds.push_back({*info, KeysOf(*info), FirstSampleOf(*info)});
+    kinds.push_back({*info, inspect::KeysOf(*info), FirstSampleOf(*info)});
   }
   return kinds;
 }
@@ -91,32 +85,6 @@ std::string ToText(const Kind& kind) {
   return text;
 }
 
-std::string ToJson(const Kind& kind) {
-  inspect::JsonWriter json;
-  json.BeginObject();
-  json.Text("kind", kind.info.Name());
-  json.Text("marker", kind.info.marker);
-  json.Key("kind_code");
-  kind.info.kind_code ? json.Integer(*kind.info.kind_code) : json.Null();
-  json.Text("descriptor_type", kind.info.descriptor_type);
-  json.Key("way");
-  json.Integer(static_cast<int>(kind.info.way));
-  json.Text("grammar", kind.info.grammar);
-  json.Key("keys");
-  json.BeginArray();
-  for (const KeyInfo& key : kind.keys) {
-    json.BeginObject();
-    json.Text("key", key.key);
-    json.Text("type", key.type);
-    json.Text("rule", key.rule);
-    json.EndObject();
-  }
-  json.EndArray();
-  json.Text("sample", kind.sample);
-  json.EndObject();
-  return json.TakeLine();
-}
-
 std::string ToMarkdown(const Kind& kind) {
   std::string text =
       fmt::format("## `{0}`\n\nname = prefix {1} `{0}`\n\n", kind.info.marker, kind.info.grammar);
@@ -149,7 +117,7 @@ int Run(const KindsOptions& options) {
     const auto names_it = [&](const std::string& name) { return kind.IsCalled(name); };
     if (!options.names.empty() && std::none_of(options.names.begin(), options.names.end(), names_it))
       continue;
-    if (options.format == "json") output.Write(ToJson(kind));
+    if (options.format == "json") output.Write(inspect::ToJsonLine(kind.info, kind.sample));
     if (options.format == "text") output.Write(ToText(kind) + "\n");
     if (options.format == "markdown") output.Write(ToMarkdown(kind));
   }
