@@ -1,0 +1,111 @@
+// Names are bytes. On the page \xNN is the byte NN, and everything else stands for itself.
+
+const HEX_ESCAPE = /\\x([0-9a-fA-F]{2})/g;
+// What a text would hide or be rearranged by, and a backslash that would read as the beginning of an escape.
+const NEEDS_ESCAPE =
+  /[\u0000-\u001f\u007f-\u009f\u061c\u200e\u200f\u2028-\u202e\u2066-\u2069\ufeff]|\\(?=x[0-9a-fA-F]{2})/g;
+
+const encoder = new TextEncoder();
+const strictDecoder = new TextDecoder('utf-8', { fatal: true, ignoreBOM: true });
+const decoder = new TextDecoder('utf-8', { ignoreBOM: true });
+
+function decodeStrictly(bytes) {
+  try {
+    return strictDecoder.decode(bytes);
+  } catch {
+    return null;
+  }
+}
+
+function joinBytes(parts) {
+  const bytes = new Uint8Array(parts.reduce((size, part) => size + part.length, 0));
+  let at = 0;
+  for (const part of parts) {
+    bytes.set(part, at);
+    at += part.length;
+  }
+  return bytes;
+}
+
+// The bytes of what was typed. Line breaks, which a text box adds and changes, do not count.
+function bytesOfTyped(text) {
+  const line = text.replace(/[\r\n]/g, '');
+  const parts = [];
+  let end = 0;
+  for (const escape of line.matchAll(HEX_ESCAPE)) {
+    parts.push(encoder.encode(line.slice(end, escape.index)), [parseInt(escape[1], 16)]);
+    end = escape.index + escape[0].length;
+  }
+  parts.push(encoder.encode(line.slice(end)));
+  return joinBytes(parts);
+}
+
+const escapeOf = (byte) => '\\x' + byte.toString(16).padStart(2, '0');
+const escapesOf = (bytes) => Array.from(bytes, escapeOf).join('');
+
+function sizeOfCharacter(lead) {
+  if (lead < 0x80) return 1;
+  if (lead < 0xe0) return 2;
+  return lead < 0xf0 ? 3 : 4;
+}
+
+// Where the valid characters at the beginning of `bytes` end.
+function endOfValid(bytes, from) {
+  let at = from;
+  while (at < bytes.length) {
+    const end = at + sizeOfCharacter(bytes[at]);
+    if (decodeStrictly(bytes.subarray(at, end)) === null) break;
+    at = end;
+  }
+  return Math.min(at, bytes.length);
+}
+
+function addText(pieces, text) {
+  let end = 0;
+  for (const found of text.matchAll(NEEDS_ESCAPE)) {
+    if (found.index > end) pieces.push({ text: text.slice(end, found.index), isEscape: false });
+    pieces.push({ text: escapesOf(encoder.encode(found[0])), isEscape: true });
+    end = found.index + found[0].length;
+  }
+  if (end < text.length) pieces.push({ text: text.slice(end), isEscape: false });
+}
+
+// The bytes as texts to show: characters, and escapes of what is no character or cannot be seen.
+function piecesOf(bytes) {
+  const pieces = [];
+  const whole = decodeStrictly(bytes);
+  if (whole !== null) {
+    addText(pieces, whole);
+    return pieces;
+  }
+  for (let at = 0; at < bytes.length; ) {
+    const end = endOfValid(bytes, at);
+    addText(pieces, strictDecoder.decode(bytes.subarray(at, end)));
+    if (end < bytes.length) pieces.push({ text: escapeOf(bytes[end]), isEscape: true });
+    at = end + 1;
+  }
+  return pieces;
+}
+
+const shownText = (bytes) => piecesOf(bytes).map((piece) => piece.text).join('');
+
+// For the part of a link after "#": every byte but the harmless ones as %NN.
+function percentEncode(bytes) {
+  const harmless = /[A-Za-z0-9\-_.~:/@]/;
+  const encodeByte = (byte) => {
+    const character = String.fromCharCode(byte);
+    return harmless.test(character) ? character : '%' + byte.toString(16).toUpperCase().padStart(2, '0');
+  };
+  return Array.from(bytes, encodeByte).join('');
+}
+
+function percentDecode(text) {
+  const parts = [];
+  let end = 0;
+  for (const escape of text.matchAll(/%([0-9a-fA-F]{2})/g)) {
+    parts.push(encoder.encode(text.slice(end, escape.index)), [parseInt(escape[1], 16)]);
+    end = escape.index + 3;
+  }
+  parts.push(encoder.encode(text.slice(end)));
+  return joinBytes(parts);
+}

@@ -1,0 +1,166 @@
+// One name, shown in every way, and where it comes from.
+
+const setTold = debounced(250, (text) => (byId('told').textContent = text));
+
+class Page {
+  constructor(library, samples) {
+    this.library = library;
+    this.bytes = new Uint8Array();
+    this.view = new NameView(byId('bytes'), byId('about'));
+    this.form = new FieldsForm(library, (name) => this.take(name, 'fields'));
+    this.samples = this.byKind(samples);
+    this.watch();
+  }
+
+  get as() {
+    return byId('as').value;
+  }
+
+  byKind(samples) {
+    const kinds = new Map(this.library.kinds().map(({ kind }) => [kind, []]));
+    for (const name of samples) {
+      const bytes = encoder.encode(name);
+      kinds.get(this.library.kind(bytes)).push(bytes);
+    }
+    byId('kind').append(...Array.from(kinds.keys(), (kind) => make('option', { value: kind }, kind)));
+    return kinds;
+  }
+
+  watch() {
+    byId('name').addEventListener('input', () => this.take(bytesOfTyped(byId('name').value), 'box'));
+    byId('kind').addEventListener('change', () => this.takeSample(0));
+    byId('next-sample').addEventListener('click', () => this.takeSample(this.sample + 1));
+    byId('as').addEventListener('change', () => this.show('as'));
+    byId('hide-defaults').addEventListener('change', (event) =>
+      byId('members').classList.toggle('hides-defaults', event.target.checked));
+    document.getElementsByName('mode').forEach((radio) => radio.addEventListener('change', () => this.draw()));
+    byId('copy').addEventListener('click', () => this.copyLink());
+    byId('picture').addEventListener('pointerover', (event) => this.pointAt(event.target));
+    window.addEventListener('hashchange', () => this.takeLink());
+  }
+
+  takeSample(number) {
+    const names = this.samples.get(byId('kind').value);
+    this.sample = number % names.length;
+    byId('as').value = 'auto';
+    this.take(names[this.sample], 'sample');
+  }
+
+  // Takes the name of the link; false when it has none.
+  takeLink() {
+    const values = new Map(location.hash.slice(1).split('&').map((pair) => [pair.split('=', 1)[0], pair]));
+    if (!values.has('name')) return false;
+    const as = (values.get('as') || '').slice('as='.length);
+    byId('as').value = as in READ_AS ? as : 'auto';
+    this.take(percentDecode(values.get('name').slice('name='.length)), 'link');
+    return true;
+  }
+
+  // `source` already shows the name and is left as it is.
+  take(bytes, source) {
+    this.bytes = bytes;
+    if (source !== 'box') byId('name').value = shownText(bytes);
+    this.show(source);
+  }
+
+  show(source) {
+    const decoded = this.library.decode(this.bytes, this.as);
+    const explained = JSON.parse(this.library.explain(this.bytes, this.as));
+    this.view.show(this.bytes, explained);
+    showMembers(byId('members'), explained, this.view);
+    this.showProblems(explained);
+    this.showResult(JSON.parse(decoded), explained);
+    byId('json').textContent = decoded;
+    this.draw();
+    if (source !== 'fields') this.form.show(this.bytes, this.as);
+    this.showLink();
+  }
+
+  showResult({ records, exception }, { problems }) {
+    const kind = this.library.kind(this.bytes, this.as);
+    const fails = problems.some(({ severity }) => severity === 'error') || exception !== null;
+    const what = kind === 'marker' ? 'A marker name' : kind === null ? 'No kind of bubble' : kind;
+    const how = exception !== null ? `: the call throws ${exception}` : fails ? ': it fails' : ': it decodes';
+    setTold(`${what}${how}, ${problems.length === 0 ? 'no problems' : counted(problems.length, 'problem')}.`);
+    byId('records').replaceChildren(...records.map(({ level, tag, message }) =>
+      make('li', {}, make('span', { class: 'muted' }, `level ${level}, ${tag} `), make('code', {}, message))));
+  }
+
+  showProblems(explained) {
+    byId('problems').replaceChildren(...explained.problems.map((problem) =>
+      problemItem(problem, this.remedyFor(problem, explained))));
+  }
+
+  remedyFor(problem, explained) {
+    if (problem.suggestion === '--marker') {
+      return { button: makeButton('Read it as a marker name', () => this.readAs('marker')) };
+    }
+    const name = mended(this.library, this.bytes, this.as, explained, problem);
+    const button = name && makeButton('Use it', () => this.mend(name));
+    if (button) button.setAttribute('aria-label', `Use ${problem.suggestion}`);
+    return { isShown: true, button };
+  }
+
+  mend(name) {
+    this.take(name, 'problem');
+    byId('name').focus(); // the button is gone
+  }
+
+  readAs(as) {
+    byId('as').value = as;
+    this.show('as');
+    byId('as').focus();
+  }
+
+  draw() {
+    const mode = document.querySelector('[name=mode]:checked').value;
+    const svg = this.library.draw(this.bytes, this.as, mode);
+    const picture = new DOMParser().parseFromString(svg, 'image/svg+xml').documentElement;
+    byId('picture').replaceChildren(document.importNode(picture, true));
+  }
+
+  pointAt(element) {
+    const member = element.dataset.member;
+    if (member) this.view.markMember(member);
+    else this.view.unmark();
+  }
+
+  showLink() {
+    const as = this.as === 'auto' ? '' : `&as=${this.as}`;
+    byId('link').href = `#name=${percentEncode(this.bytes)}${as}`;
+    byId('copied').textContent = '';
+  }
+
+  async copyLink() {
+    try {
+      await navigator.clipboard.writeText(byId('link').href);
+      byId('copied').textContent = 'Copied.';
+    } catch {
+      byId('copied').textContent = 'This browser does not let the page copy: copy the link itself.';
+    }
+  }
+
+  open(name) {
+    byId('as').value = 'auto';
+    this.take(name, 'list');
+    byId('name').focus();
+    byId('name').scrollIntoView({ block: 'center' });
+  }
+}
+
+async function main() {
+  const library = await Library.start(byId('wasm').textContent);
+  const builtIn = encoder.encode(byId('built-in-config').textContent);
+  library.setConfig(builtIn);
+  const page = new Page(library, JSON.parse(byId('samples').textContent));
+  if (!page.takeLink()) page.takeSample(0);
+  watchConfig(library, builtIn, () => page.show('config'));
+  new NameList(library, (name) => page.open(name));
+  // For the browser's console, and for tests.
+  window.bubbles = { library, page, bytesOfTyped, shownText, started: performance.now() };
+}
+
+main().catch((error) => {
+  byId('told').textContent = `The page cannot start: ${error.message}. It needs a browser of 2023 or later.`;
+  byId('told').className = 'error';
+});
