@@ -87,6 +87,17 @@ function piecesOf(bytes) {
   return pieces;
 }
 
+// The same for a part of a name, which may end inside of what would read as an escape.
+function piecesOfPart(name, [begin, end]) {
+  for (let at = Math.max(begin, end - 3); at < end; ++at) {
+    if (/^\\x[0-9a-fA-F]{2}$/.test(String.fromCharCode(...name.subarray(at, at + 4)))) {
+      const before = piecesOf(name.subarray(begin, at));
+      return [...before, { text: escapeOf(name[at]), isEscape: true }, ...piecesOf(name.subarray(at + 1, end))];
+    }
+  }
+  return piecesOf(name.subarray(begin, end));
+}
+
 const shownText = (bytes) => piecesOf(bytes).map((piece) => piece.text).join('');
 
 // For the part of a link after "#": every byte but the harmless ones as %NN.

@@ -55,10 +55,11 @@ function mended(library, bytes, as, explained, problem) {
   if (!problem.suggestion || !problem.bytes) return null;
   const [begin, end] = problem.bytes;
   const name = joinBytes([bytes.subarray(0, begin), encoder.encode(problem.suggestion), bytes.subarray(end)]);
-  const { problems } = JSON.parse(library.explain(name, as));
+  const { kind, problems } = JSON.parse(library.explain(name, as));
   const errors = (list) => list.filter(({ severity }) => severity === 'error').length;
   const persists = problems.some(({ code, bytes: at }) => code === problem.code && at && at[0] === begin);
-  const isBetter = errors(problems) < errors(explained.problems) || problems.length < explained.problems.length;
+  const findsKind = explained.kind === null && kind !== null;
+  const isBetter = findsKind || errors(problems) < errors(explained.problems) || problems.length < explained.problems.length;
   return !persists && isBetter ? name : null;
 }
 

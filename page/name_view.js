@@ -87,7 +87,7 @@ class NameView {
   elementOf(segment, bytes) {
     const part = this.parts[segment.owner];
     const element = make('span', { role: 'option', class: `${part ? part.role : 'structure'} ${segment.severity}` });
-    element.append(...piecesOf(bytes.subarray(...segment.range)).map(({ text, isEscape }) =>
+    element.append(...piecesOfPart(bytes, segment.range).map(({ text, isEscape }) =>
       isEscape ? make('span', { class: 'escape' }, text) : text));
     element.dataset.bytes = segment.range.join('-');
     element.setAttribute('aria-label', `${element.textContent || 'nothing'}, ${this.describe(segment)}`);

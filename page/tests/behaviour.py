@@ -1,0 +1,218 @@
+"""What the page does when it is used."""
+
+import json
+
+from browser import run_over, run_tool
+from names import log_of
+from selenium.webdriver.common.action_chains import ActionChains
+from selenium.webdriver.common.keys import Keys
+
+JAM = b'kavrix://resource/{"content":"Jam","mode":0,"scene":1}.trafficBubble'
+ODD = b'kavrix://resource/{"content":"a\x00b\xff\\x41","mode":0}.trafficBubble'
+ODD_TYPED = 'kavrix://resource/{"content":"a\\x00b\\xff\\x5cx41","mode":0}.trafficBubble'
+
+MARKED = "return Array.from(document.querySelectorAll('#bytes .marked'), (span) => span.textContent)"
+MARKED_ROWS = "return Array.from(document.querySelectorAll('#members .marked th'), (cell) => cell.textContent)"
+
+
+def row_of(browser, member):
+    return browser.run("return Array.from(document.querySelectorAll('#members tr'))"
+                       ".find((row) => row.querySelector('th').textContent === arguments[0])", member)
+
+
+def segment_with(browser, text):
+    return browser.run("return Array.from(document.querySelectorAll('#bytes > span'))"
+                       ".find((span) => span.textContent === arguments[0])", text)
+
+
+def point_at(browser, element):
+    ActionChains(browser.driver).move_to_element(element).perform()
+
+
+def typed(checks, browser):
+    """By the keyboard, key by key."""
+    browser.open()
+    box = browser.get("name")
+    box.send_keys(Keys.CONTROL, "a")
+    box.send_keys(ODD_TYPED)
+    checks.same("name of what was typed", browser.name(), ODD)
+    checks.same("bytes shown", browser.text("bytes"), ODD_TYPED)
+    native = run_over([ODD], "decode", "--format", "json")[0]
+    checks.same("line of a name with NUL and bytes that are not UTF-8", browser.text("json"), native)
+    for name in (ODD, b"\x00", b"\xff\xfe", b"", b"\\x4", b"\\x41\\x5c", "kavrix://\u202e\u0085\ufeff中".encode(), b"a\nb\r\tc",
+                 bytes(range(256))):
+        shown = browser.run("return bubbles.shownText(Uint8Array.from(arguments[0]))", list(name))
+        back = bytes(browser.run("return Array.from(bubbles.bytesOfTyped(arguments[0]))", shown))
+        checks.same(f"shown and typed again, {name!r}", back, name)
+        checks.true(f"shown text of {name!r}", shown.isprintable(), repr(shown))
+
+
+def link(checks, browser):
+    browser.type_into("name", ODD_TYPED)
+    address = browser.get("link").get_attribute("href")
+    browser.open("#" + address.split("#", 1)[1])
+    checks.same("name of the link", browser.name(), ODD)
+    checks.same("box of the link", browser.get("name").get_attribute("value"), ODD_TYPED)
+    browser.run("location.hash = '#name=kavrix://resource/前%FF_0@1.labelBubble&as=marker'")
+    browser.wait("return document.getElementById('as').value === 'marker'")
+    checks.same("changed link", browser.name(), "kavrix://resource/前".encode() + b"\xff_0@1.labelBubble")
+    browser.open("#name=%zz%&as=what")
+    checks.same("link with broken escapes", browser.name(), b"%zz%")
+    checks.same("reading of a link that names none", browser.get("as").get_attribute("value"), "auto")
+
+
+def hover(checks, browser):
+    browser.open()
+    browser.type_into("name", JAM.decode())
+    point_at(browser, row_of(browser, "content"))
+    checks.same("bytes of a member under the pointer", browser.run(MARKED), ["Jam"])
+    browser.picture("hover")
+    point_at(browser, segment_with(browser, "1"))
+    checks.same("member of bytes under the pointer", browser.run(MARKED_ROWS), ["scene"])
+    checks.same("bytes under the pointer", browser.run(MARKED), ["1"])
+    checks.same("what is under the pointer", browser.text("about"), "bytes 52 to 53: scene")
+    point_at(browser, row_of(browser, "style_word"))
+    also = browser.run("return Array.from(document.querySelectorAll('#bytes .also'), (span) => span.textContent)")
+    checks.same("keys that chose a style value", also, ["1"])
+    point_at(browser, browser.get("name"))
+    checks.same("nothing under the pointer", browser.run(MARKED), [])
+    point_at(browser, browser.driver.find_element("css selector", "#picture [data-member=content]"))
+    checks.same("member of a text in the picture", browser.run(MARKED_ROWS), ["content"])
+    browser.run("document.querySelector('#members tr').focus()")
+    checks.same("row with the focus", browser.run(MARKED_ROWS), ["scene"])
+    browser.driver.switch_to.active_element.send_keys(Keys.ARROW_DOWN)
+    checks.same("row after an arrow key", browser.run(MARKED), ["Jam"])
+    browser.run("document.querySelector('#bytes [tabindex=\"0\"]').focus()")
+    browser.driver.switch_to.active_element.send_keys(Keys.END)
+    checks.same("bytes after the End key", browser.run(MARKED), [".trafficBubble"])
+    name = b'kavrix://resource/{"content":"","mode":0}.trafficBubble'
+    browser.type_into("name", name.decode())
+    point_at(browser, row_of(browser, "content"))
+    checks.same("place of an empty text", browser.run(MARKED), [""])
+
+
+def edit(checks, browser):
+    browser.open()
+    browser.type_into("name", "kavrix://resource/Main St_0@12.labelBubble")
+    box = browser.get("field-content")
+    box.send_keys("_1")
+    refusal = run_tool("encode", "--kind", "labelBubble", '{"content":"Main St_1","mode":0,"direction":12}').stderr.decode()
+    shown = browser.text("fields-error")
+    checks.true("refusal", shown and refusal.endswith(f": {shown}\n"), f"{shown!r}, {refusal!r}")
+    checks.same("refused field", box.get_attribute("aria-invalid"), "true")
+    checks.same("name while a field is refused", browser.name(), b"kavrix://resource/Main St_0@12.labelBubble")
+    browser.picture("refused")
+    box.send_keys(Keys.BACKSPACE, Keys.BACKSPACE, "r")
+    checks.same("edited name", browser.name(), b"kavrix://resource/Main Str_0@12.labelBubble")
+    checks.same("box of the edited name", browser.get("name").get_attribute("value"), browser.name().decode())
+    checks.same("refusal that is gone", browser.text("fields-error"), "")
+    checks.same("focus after an edit", browser.run("return document.activeElement.id"), "field-content")
+    for value, found in (("x", '"x"'), ("2147483648", "2147483648")):
+        browser.type_into("field-direction", value)
+        checks.true("refused direction", found in browser.text("fields-error"), browser.text("fields-error"))
+    browser.type_into("field-direction", "")
+    checks.same("name without the field", browser.name(), b"kavrix://resource/Main Str_0@0.labelBubble")
+    browser.type_into("name", 'kavrix://resource/{"cameras":[{"type":1}],"snap_text":"a\\nb"}.cameraBubble')
+    browser.type_into("field-cameras", '[{"type":1,"speed":90}]')
+    checks.true("edited list, kept newline", b'"speed":90' in browser.name() and b"a\\u000ab" in browser.name(), browser.name())
+
+
+def broken_name(checks, browser):
+    browser.open()
+    browser.type_into("name", 'kavrix://resource/{"contnt":"Jam","mode":0,"scene":}.traficBubble')
+    browser.picture("broken")
+    problems = browser.driver.find_elements("css selector", "#problems li")
+    checks.same("problems", len(problems), 1)
+    checks.true("near marker", "near-marker" in problems[0].text, problems[0].text)
+    problems[0].find_element("tag name", "button").click()
+    checks.same("mended marker", browser.name(), b'kavrix://resource/{"contnt":"Jam","mode":0,"scene":}.trafficBubble')
+    checks.same("focus after a suggestion", browser.run("return document.activeElement.id"), "name")
+    checks.true("broken payload", "not-json" in browser.text("problems"), browser.text("problems"))
+    browser.wait("return document.getElementById('told').textContent.includes('it fails, 1 problem')")
+    browser.type_into("name", browser.name().decode().replace(":}", ":1}"))
+    browser.get("problems").find_element("tag name", "button").click()
+    checks.same("mended key", browser.name(), JAM)
+    checks.same("problems that are gone", browser.text("problems"), "")
+    browser.wait("return document.getElementById('told').textContent.includes('it decodes, no problems')")
+    browser.type_into("name", "short.nameBubble")
+    checks.true("name shorter than the prefix", "too-short" in browser.text("problems"), browser.text("problems"))
+    browser.wait("return document.getElementById('told').textContent.includes('throws')")
+
+
+def configuration(checks, browser):
+    browser.open()
+    browser.type_into("name", JAM.decode())
+    browser.get("config-details").find_element("tag name", "summary").click()
+    text = browser.get("config").get_attribute("value")
+    with open("samples/default_config.json", encoding="utf-8") as file:
+        checks.same("built-in configuration", text.strip(), file.read().strip())
+    broken = text.replace('"0xffd93036"', '"red"')
+    browser.type_into("config", broken)
+    browser.wait("return document.getElementById('config').getAttribute('aria-invalid') === 'true'")
+    with open("build/page/broken.json", "w", encoding="utf-8") as file:
+        file.write(broken)
+    told = run_tool("decode", "--config", "build/page/broken.json", JAM.decode(), statuses=(2,)).stderr.decode()
+    message = browser.text("config-told").removeprefix("Not used: ")
+    checks.true("error of the loader", message and told.endswith(f"broken.json: {message}\n"), f"{message!r}, {told!r}")
+    checks.true("record and value", "traffic_nav_style" in message and "value 2" in message, message)
+    browser.run("document.getElementById('config').scrollIntoView({block: 'end'})")
+    browser.picture("broken-config")
+    checks.true("configuration that stays", "0xffd93036" in browser.text("members"))
+    browser.type_into("config", text.replace("0xffd93036", "0xff00ff00"))
+    browser.wait("return document.getElementById('members').textContent.includes('0xff00ff00')")
+    browser.get("config-file").send_keys(browser.address.removeprefix("file://").replace("index.html", "broken.json"))
+    browser.wait("return document.getElementById('config-told').textContent.startsWith('Not used')")
+    browser.run("""const files = new DataTransfer();
+        files.items.add(new File([arguments[0]], 'dropped.json'));
+        document.getElementById('config').dispatchEvent(new DragEvent('drop', {dataTransfer: files, cancelable: true}))""",
+                text.replace("0xffd93036", "0xff0000ff"))
+    browser.wait("return document.getElementById('members').textContent.includes('0xff0000ff')")
+    browser.get("config-reset").click()
+    checks.true("built-in configuration again", "0xffd93036" in browser.text("members"))
+
+
+PASTE = """const done = arguments[1];
+    const clipboard = new DataTransfer();
+    clipboard.setData('text/plain', arguments[0]);
+    let last = performance.now(), longest = 0, frames = 0, started = last;
+    const frame = (now) => {
+      longest = Math.max(longest, performance.now() - last);
+      last = performance.now();
+      ++frames;
+      const told = document.getElementById('list-told').textContent;
+      const isDone = told !== '' && !told.includes('checked of') && document.querySelector('#list li');
+      if (isDone) done({longest, frames, milliseconds: last - started});
+      else requestAnimationFrame(frame);
+    };
+    requestAnimationFrame(frame);
+    document.getElementById('log').dispatchEvent(
+        new ClipboardEvent('paste', {clipboardData: clipboard, bubbles: true, cancelable: true}))"""
+
+
+def log(checks, browser, most_gap):
+    """Returns how long the longest frame took, and all of it, in milliseconds."""
+    browser.open()
+    text = log_of(10_000)
+    measured = browser.run_async(PASTE, text)
+    survey = json.loads(run_tool("survey", "--extract", "--format", "json", given=text.encode()).stdout)
+    failed = sum(kind["failed"] for kind in survey["kinds"].values())
+    told = browser.text("list-told")
+    checks.true("names in the log", told.startswith(f"10,000 names: {failed} failed, "), f"{told}; {failed} failed")
+    rows = browser.run("return Array.from(document.querySelectorAll('#list li'), (row) => row.textContent)")
+    checks.same("rows", len(rows), 100)
+    checks.true("failures first", all("fails" in row for row in rows), rows[:3])
+    checks.true("longest frame", measured["longest"] < most_gap, measured)
+    checks.true("frames", measured["frames"] > 10, measured)
+    browser.run("document.getElementById('log').scrollIntoView()")
+    browser.picture("list")
+    browser.get("list-more").click()
+    checks.same("rows after more were asked for", len(browser.driver.find_elements("css selector", "#list li")), 200)
+    first = browser.driver.find_element("css selector", "#list li button")
+    name = first.text
+    first.click()
+    checks.same("name that was opened", browser.name().decode(), name)
+    browser.type_into("log", '{"request":"kavrix:\\/\\/resource\\/Home_0_x_0@3.etaBubble"}\nx')
+    browser.get("log-json").click()
+    browser.wait("return document.getElementById('list-told').textContent.startsWith('1 name:')")
+    checks.true("name in JSON", "Home_0_x_0@3" in browser.text("list"), browser.text("list"))
+    return measured
