@@ -1,6 +1,7 @@
 // One name, shown in every way, and where it comes from.
 
-const setTold = debounced(250, (text) => (byId('told').textContent = text));
+// Not at every key: a screen reader reads it out.
+const tellAloud = debounced(400, (text) => (byId('told-aloud').textContent = text));
 
 class Page {
   constructor(library, samples) {
@@ -81,7 +82,9 @@ class Page {
     const fails = problems.some(({ severity }) => severity === 'error') || exception !== null;
     const what = kind === 'marker' ? 'A marker name' : kind === null ? 'No kind of bubble' : kind;
     const how = exception !== null ? `: the call throws ${exception}` : fails ? ': it fails' : ': it decodes';
-    setTold(`${what}${how}, ${problems.length === 0 ? 'no problems' : counted(problems.length, 'problem')}.`);
+    const told = `${what}${how}, ${problems.length === 0 ? 'no problems' : counted(problems.length, 'problem')}.`;
+    byId('told').textContent = told;
+    tellAloud(told);
     byId('records').replaceChildren(...records.map(({ level, tag, message }) =>
       make('li', {}, make('span', { class: 'muted' }, `level ${level}, ${tag} `), make('code', {}, message))));
   }

@@ -46,7 +46,7 @@ def names(checks, browser):
 def visible_error(checks, browser):
     """What is read aloud when it changes."""
     live = browser.run("return Array.from(document.querySelectorAll('[role=status], [role=alert]'), (e) => e.id)")
-    checks.same("live regions", live, ["copied", "told", "fields-error", "list-told", "config-told"])
+    checks.same("live regions", live, ["copied", "told-aloud", "fields-error", "list-told", "config-told"])
 
 
 def contrast(checks, browser, mode):

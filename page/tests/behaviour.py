@@ -128,15 +128,16 @@ def broken_name(checks, browser):
     checks.same("mended marker", browser.name(), b'kavrix://resource/{"contnt":"Jam","mode":0,"scene":}.trafficBubble')
     checks.same("focus after a suggestion", browser.run("return document.activeElement.id"), "name")
     checks.true("broken payload", "not-json" in browser.text("problems"), browser.text("problems"))
-    browser.wait("return document.getElementById('told').textContent.includes('it fails, 1 problem')")
+    checks.same("told of a failure", browser.text("told"), "trafficBubble: it fails, 1 problem.")
     browser.type_into("name", browser.name().decode().replace(":}", ":1}"))
     browser.get("problems").find_element("tag name", "button").click()
     checks.same("mended key", browser.name(), JAM)
     checks.same("problems that are gone", browser.text("problems"), "")
-    browser.wait("return document.getElementById('told').textContent.includes('it decodes, no problems')")
+    checks.same("told of a success", browser.text("told"), "trafficBubble: it decodes, no problems.")
+    browser.wait("return document.getElementById('told-aloud').textContent === 'trafficBubble: it decodes, no problems.'")
     browser.type_into("name", "short.nameBubble")
     checks.true("name shorter than the prefix", "too-short" in browser.text("problems"), browser.text("problems"))
-    browser.wait("return document.getElementById('told').textContent.includes('throws')")
+    checks.true("told of an exception", "throws" in browser.text("told"), browser.text("told"))
 
 
 def configuration(checks, browser):
