@@ -43,28 +43,38 @@ function bytesOfTyped(text) {
 const escapeOf = (byte) => '\\x' + byte.toString(16).padStart(2, '0');
 const escapesOf = (bytes) => Array.from(bytes, escapeOf).join('');
 
-function sizeOfCharacter(lead) {
+// How many bytes the valid character at `at` has; 0 where there is none.
+function sizeOfCharacter(bytes, at) {
+  const lead = bytes[at];
   if (lead < 0x80) return 1;
-  if (lead < 0xe0) return 2;
-  return lead < 0xf0 ? 3 : 4;
+  const size = lead < 0xc2 ? 0 : lead < 0xe0 ? 2 : lead < 0xf0 ? 3 : lead < 0xf5 ? 4 : 0;
+  const least = { 0xe0: 0xa0, 0xf0: 0x90 }[lead] || 0x80;
+  const most = { 0xed: 0x9f, 0xf4: 0x8f }[lead] || 0xbf;
+  for (let i = 1; i < size; ++i) {
+    const byte = bytes[at + i]; // undefined after the end
+    if (!(byte >= (i === 1 ? least : 0x80) && byte <= (i === 1 ? most : 0xbf))) return 0;
+  }
+  return size;
 }
 
-// Where the valid characters at the beginning of `bytes` end.
+// Where the valid characters from `from` on end.
 function endOfValid(bytes, from) {
   let at = from;
-  while (at < bytes.length) {
-    const end = at + sizeOfCharacter(bytes[at]);
-    if (decodeStrictly(bytes.subarray(at, end)) === null) break;
-    at = end;
-  }
-  return Math.min(at, bytes.length);
+  for (let size; at < bytes.length && (size = sizeOfCharacter(bytes, at)) > 0; ) at += size;
+  return at;
+}
+
+function addEscape(pieces, bytes) {
+  const last = pieces[pieces.length - 1];
+  if (last && last.isEscape) last.text += escapesOf(bytes);
+  else pieces.push({ text: escapesOf(bytes), isEscape: true });
 }
 
 function addText(pieces, text) {
   let end = 0;
   for (const found of text.matchAll(NEEDS_ESCAPE)) {
     if (found.index > end) pieces.push({ text: text.slice(end, found.index), isEscape: false });
-    pieces.push({ text: escapesOf(encoder.encode(found[0])), isEscape: true });
+    addEscape(pieces, encoder.encode(found[0]));
     end = found.index + found[0].length;
   }
   if (end < text.length) pieces.push({ text: text.slice(end), isEscape: false });
@@ -80,8 +90,8 @@ function piecesOf(bytes) {
   }
   for (let at = 0; at < bytes.length; ) {
     const end = endOfValid(bytes, at);
-    addText(pieces, strictDecoder.decode(bytes.subarray(at, end)));
-    if (end < bytes.length) pieces.push({ text: escapeOf(bytes[end]), isEscape: true });
+    if (end > at) addText(pieces, strictDecoder.decode(bytes.subarray(at, end)));
+    addEscape(pieces, bytes.subarray(end, end + 1));
     at = end + 1;
   }
   return pieces;
@@ -100,14 +110,17 @@ function piecesOfPart(name, [begin, end]) {
 
 const shownText = (bytes) => piecesOf(bytes).map((piece) => piece.text).join('');
 
+const PERCENT_CODES = Array.from({ length: 256 }, (_, byte) => {
+  const character = String.fromCharCode(byte);
+  if (/[A-Za-z0-9\-_.~:/@]/.test(character)) return character;
+  return '%' + byte.toString(16).toUpperCase().padStart(2, '0');
+});
+
 // For the part of a link after "#": every byte but the harmless ones as %NN.
 function percentEncode(bytes) {
-  const harmless = /[A-Za-z0-9\-_.~:/@]/;
-  const encodeByte = (byte) => {
-    const character = String.fromCharCode(byte);
-    return harmless.test(character) ? character : '%' + byte.toString(16).toUpperCase().padStart(2, '0');
-  };
-  return Array.from(bytes, encodeByte).join('');
+  let text = '';
+  for (const byte of bytes) text += PERCENT_CODES[byte];
+  return text;
 }
 
 function percentDecode(text) {

@@ -1,6 +1,8 @@
 // The name, byte by byte, tied to the rows of the table below it.
 
+// More would make the page slow.
 const MOST_SEGMENTS = 3000;
+const MOST_BYTES = 20000;
 const NONE = -1;
 
 // What the bytes of a name are: [{role, label, range: [begin, end], also: [ranges that it depends on]}].
@@ -59,7 +61,8 @@ function segmentsOf(parts, problems, size) {
     while (end < size && owners[end] === owners[begin] && severities[end] === severities[begin]) ++end;
     segments.push({ range: [begin, end], owner: owners[begin], severity: severities[begin] });
   }
-  return segments.sort((a, b) => a.range[0] - b.range[0] || a.range[1] - b.range[1]);
+  const isShown = ({ range }) => range[1] <= size;
+  return segments.filter(isShown).sort((a, b) => a.range[0] - b.range[0] || a.range[1] - b.range[1]);
 }
 
 const isInside = (inner, outer) => inner[0] >= outer[0] && inner[1] <= outer[1];
@@ -73,13 +76,14 @@ class NameView {
     this.rows = new Map(); // by the number of their part
   }
 
-  show(bytes, explained) {
+  show(name, explained) {
+    const bytes = name.subarray(0, MOST_BYTES);
     this.parts = partsOf(explained);
     this.rows.clear();
     this.segments = segmentsOf(this.parts, explained.problems, bytes.length).slice(0, MOST_SEGMENTS);
     this.segments.forEach((segment) => (segment.element = this.elementOf(segment, bytes)));
     this.container.replaceChildren(...this.segments.map((segment) => segment.element));
-    if (this.segments.length === MOST_SEGMENTS) this.container.append('…');
+    if (this.segments.length === MOST_SEGMENTS || bytes.length < name.length) this.container.append('…');
     makeRoving(this.container, this.segments.map((segment) => segment.element));
     this.about.textContent = 'Point at a part of the name or at a member: the other one is marked.';
   }

@@ -60,6 +60,7 @@ class Page {
   // `source` already shows the name and is left as it is.
   take(bytes, source) {
     this.bytes = bytes;
+    if (source !== 'sample') this.sample = -1;
     if (source !== 'box') byId('name').value = shownText(bytes);
     this.show(source);
   }
@@ -84,6 +85,7 @@ class Page {
     const how = exception !== null ? `: the call throws ${exception}` : fails ? ': it fails' : ': it decodes';
     const told = `${what}${how}, ${problems.length === 0 ? 'no problems' : counted(problems.length, 'problem')}.`;
     byId('told').textContent = told;
+    if (kind !== null) byId('kind').value = kind;
     tellAloud(told);
     byId('records').replaceChildren(...records.map(({ level, tag, message }) =>
       make('li', {}, make('span', { class: 'muted' }, `level ${level}, ${tag} `), make('code', {}, message))));

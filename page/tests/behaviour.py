@@ -103,6 +103,7 @@ def edit(checks, browser):
     checks.same("name while a field is refused", browser.name(), b"kavrix://resource/Main St_0@12.labelBubble")
     browser.picture("refused")
     box.send_keys(Keys.BACKSPACE, Keys.BACKSPACE, "r")
+    checks.same("kind of the name", browser.get("kind").get_attribute("value"), "labelBubble")
     checks.same("edited name", browser.name(), b"kavrix://resource/Main Str_0@12.labelBubble")
     checks.same("box of the edited name", browser.get("name").get_attribute("value"), browser.name().decode())
     checks.same("refusal that is gone", browser.text("fields-error"), "")
