@@ -38,6 +38,8 @@ def typed(checks, browser):
     checks.same("name of what was typed", browser.name(), ODD)
     checks.same("bytes shown", browser.text("bytes"), ODD_TYPED)
     native = run_over([ODD], "decode", "--format", "json")[0]
+    browser.type_into("name", ODD_TYPED.replace(",", ",\n"))
+    checks.same("name with line breaks in the box", browser.name(), ODD)
     checks.same("line of a name with NUL and bytes that are not UTF-8", browser.text("json"), native)
     for name in (ODD, b"\x00", b"\xff\xfe", b"", b"\\x4", b"\\x41\\x5c", "kavrix://\u202e\u0085\ufeff中".encode(), b"a\nb\r\tc",
                  bytes(range(256))):
