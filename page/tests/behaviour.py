@@ -12,6 +12,8 @@ ODD = b'kavrix://resource/{"content":"a\x00b\xff\\x41","mode":0}.trafficBubble'
 ODD_TYPED = 'kavrix://resource/{"content":"a\\x00b\\xff\\x5cx41","mode":0}.trafficBubble'
 
 MARKED = "return Array.from(document.querySelectorAll('#bytes .marked'), (span) => span.textContent)"
+ROWS = """return Array.from(document.querySelectorAll('#members tr')).filter((row) => row.checkVisibility())
+    .map((row) => Array.from(row.querySelectorAll('code'), (code) => code.textContent))"""
 MARKED_ROWS = "return Array.from(document.querySelectorAll('#members .marked th'), (cell) => cell.textContent)"
 
 
@@ -141,6 +143,29 @@ def broken_name(checks, browser):
     browser.type_into("name", "short.nameBubble")
     checks.true("name shorter than the prefix", "too-short" in browser.text("problems"), browser.text("problems"))
     checks.true("told of an exception", "throws" in browser.text("told"), browser.text("told"))
+
+
+def choices(checks, browser):
+    """The controls that choose how a name is shown."""
+    browser.open()
+    browser.type_into("name", JAM.decode())
+    for mode in ("night", "day", "name"):
+        browser.driver.find_element("css selector", f"[name=mode][value={mode}]").click()
+        shown = "night" if mode == "night" else "day"
+        checks.true(f"picture, {mode}", f"schematic, {shown}" in browser.text("picture"), browser.text("picture"))
+    names = [row[0] for row in browser.run(ROWS)]
+    browser.get("hide-defaults").click()
+    left = [row[0] for row in browser.run(ROWS)]
+    checks.true("members without defaults", "content" in left and "lan" in names and "lan" not in left, left)
+    browser.get("copy").click()
+    browser.wait("return document.getElementById('copied').textContent !== ''")
+    marker = b'kavrix://resource/{"marker_type":3,"mode":0}.marker'
+    browser.type_into("name", marker.decode())
+    checks.same("name that ends in .marker", browser.text("json"), run_over([marker], "decode", "--format", "json", "--marker")[0])
+    browser.run("const as = document.getElementById('as'); as.value = 'bubble'; as.dispatchEvent(new Event('change'))")
+    checks.same("the same as a bubble name", browser.text("json"), run_over([marker], "decode", "--format", "json")[0])
+    browser.get("problems").find_element("tag name", "button").click()
+    checks.same("reading that was suggested", browser.get("as").get_attribute("value"), "marker")
 
 
 def configuration(checks, browser):
