@@ -16,6 +16,13 @@ TEST(DisplayWidthTest, CountsWideAndCombiningCharacters) {
   EXPECT_EQ(DisplayWidth("e\xCC\x81"), 1U);
   EXPECT_EQ(DisplayWidth("\xFF"), 1U);
   EXPECT_EQ(Padded("前", 4), "前  ");
+  for (const char* const emoji : {"\U0001F680", "\U0001F6FF", "\u26A1", "\u2705", "\u26FD", "\U0001F7E0",
+                                  "\U0001F7EB", "\U0001F697", "\u231A", "\U0001FA70"}) {
+    EXPECT_EQ(DisplayWidth(emoji), 2U) << emoji;
+  }
+  for (const char* const narrow : {"\u2713", "\u26A0", "\u2192", "\u00E9", "\U0001F780"}) {
+    EXPECT_EQ(DisplayWidth(narrow), 1U) << narrow;
+  }
 }
 
 TEST(FittingLengthTest, TakesWholeCharactersThatFit) {

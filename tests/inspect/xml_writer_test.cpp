@@ -35,6 +35,7 @@ TEST(XmlTextTest, ReplacesWhatXmlForbidsAndWhatCouldRearrangeText) {
       "\xF0\x9F\xBF\xBE",  // U+1FFFE, no character
       "\xE2\x80\xAE",      // right-to-left override
       "\xE2\x81\xA6",      // left-to-right isolate
+      "\xD8\x9C",          // Arabic letter mark, which sets a direction too
       "\xE2\x80\xA8",      // line separator
       "\xFF",
       "\xE4\xB8",
