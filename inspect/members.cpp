@@ -41,6 +41,10 @@ std::vector<FlatMember> Members(const BubbleDrawDescriptor& descriptor) {
   return members;
 }
 
+bool SaysSomething(const FlatMember& member) {
+  return !IsDefault(member) || std::holds_alternative<MarkerType>(member.value);
+}
+
 void WriteValue(JsonWriter& json, const FlatMember& member) { std::visit(ValueWriter{json}, member.value); }
 
 }  // namespace kavrix::inspect

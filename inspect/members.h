@@ -13,6 +13,9 @@ namespace kavrix::inspect {
 // Pairs and triples of style values, which always have all their items, have none.
 std::vector<FlatMember> Members(const BubbleDrawDescriptor& descriptor);
 
+// Whether a member holds more than its default. A marker type has no value that means none.
+bool SaysSomething(const FlatMember& member);
+
 // Writes the value of a member as JSON, a marker type as its number.
 void WriteValue(JsonWriter& json, const FlatMember& member);
 

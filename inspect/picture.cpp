@@ -1,23 +1,21 @@
 #include "inspect/picture.h"
 
-#include "inspect/display_width.h"
 #include "inspect/members.h"
 #include "inspect/picture_canvas.h"
 #include "inspect/picture_content.h"
 #include "inspect/picture_parts.h"
+#include "inspect/text_width.h"
 
 namespace kavrix::inspect {
 namespace {
 
 constexpr int kMargin = 24;  // around the callout; the pointer is in it
 constexpr int kPadding = 18;
-constexpr int kCaptionSize = 10;
-constexpr std::size_t kDescriptionColumns = 60;
+constexpr int kCaptionLeft = 10;
+constexpr int kCaptionHeight = 14;
+constexpr Letters kCaption = {10};
 
-// With a fallback for Chinese on each of the usual systems.
-constexpr char kFonts[] =
-    "system-ui, -apple-system, 'Segoe UI', Roboto, 'Noto Sans', 'PingFang SC', 'Microsoft YaHei', "
-    "'Noto Sans CJK SC', 'WenQuanYi Micro Hei', sans-serif";
+std::string CutForReaders(std::string_view text) { return CutText(text, {}, 600); }
 
 enum class Side { kNone, kLeft, kRight, kTop, kBottom };
 
@@ -71,10 +69,10 @@ class Drawing {
         options_(options),
         side_(side),
         palette_(PaletteOf(is_day)),
+        mode_(Mode(is_day)),
         content_(DrawContent(parts, options.problem, palette_)),
         width_(content_.width + 2 * kPadding),
         height_(content_.height + 2 * kPadding),
-        caption_(Caption(is_day)),
         canvas_(palette_) {}
 
   std::string Draw() {
@@ -87,24 +85,30 @@ class Drawing {
  private:
   static constexpr int kBelowCallout = 2 * kMargin + 8;
 
-  std::string Caption(bool is_day) const {
-    if (side_ == Side::kNone) return "schematic, nothing drawn";
-    return std::string("schematic, ") + (is_day ? "day" : "night") + ", points " + NameOf(side_) +
-           " (direction " + std::to_string(parts_.direction) + ')';
+  // A name that fails may not have told its mode.
+  std::string Mode(bool is_day) const {
+    if (side_ == Side::kNone) return "nothing drawn";
+    const std::string drawn = is_day ? "day" : "night";
+    return options_.problem.empty() ? drawn : "mode not known, drawn as " + drawn;
+  }
+
+  std::string Pointer() const {
+    return std::string("points ") + NameOf(side_) + " (direction " + std::to_string(parts_.direction) + ')';
   }
 
   bool HasStyle() const { return !parts_.style_name.empty(); }
   int FullWidth() const { return width_ + 2 * kMargin; }
 
   void Begin() {
-    const int full_height = height_ + kBelowCallout + (HasStyle() ? 24 : 10);
+    const int full_height = height_ + kBelowCallout + (HasStyle() ? 3 : 2) * kCaptionHeight - 4;
     XmlWriter& xml = canvas_.xml();
     xml.Begin("svg").With("xmlns", "http://www.w3.org/2000/svg").With("role", "img");
-    xml.With("xml:space", "preserve").With("font-family", kFonts);
+    xml.With("xml:space", "preserve").With("font-family", PictureFonts());
     xml.With("width", FullWidth()).With("height", full_height);
     xml.With("viewBox", "0 0 " + std::to_string(FullWidth()) + ' ' + std::to_string(full_height));
-    const std::string title = parts_.title ? ": " + CutText(parts_.title->value, kDescriptionColumns) : "";
-    xml.Element("title", CutText(options_.kind, kDescriptionColumns) + title);
+    const std::string title = parts_.title ? ": " + CutForReaders(parts_.title->value) : "";
+    const std::string mode = side_ == Side::kNone ? "" : ", " + mode_;
+    xml.Element("title", CutForReaders(options_.kind) + title + mode);
     xml.Element("desc", Description());
     canvas_.Rect(0, 0, FullWidth(), full_height, 8, palette_.map);
   }
@@ -116,10 +120,7 @@ class Drawing {
     if (side_ == Side::kNone) xml.With("stroke-dasharray", "6 5");
     xml.End();
     if (!parts_.colours.shown.empty()) {
-      const std::string bar = "M" + std::to_string(kMargin + 8) + ' ' + std::to_string(kMargin + 16) + 'v' +
-                              std::to_string(height_ - 32);
-      canvas_.Path(bar, "none", palette_.border, 6);
-      canvas_.Path(bar, "none", HexColour(parts_.colours.shown.front()), 4);
+      canvas_.Bar(kMargin + 8, kMargin + 16, height_ - 32, parts_.colours.shown.front());
     }
     // An inner picture clips what is wider than it should be.
     xml.Begin("svg").With("x", kMargin + kPadding).With("y", kMargin + kPadding);
@@ -127,31 +128,37 @@ class Drawing {
   }
 
   void BelowCallout() {
-    const TextStyle small = {kCaptionSize, palette_.muted};
-    const int baseline = height_ + kBelowCallout - 2;
-    canvas_.Text(10, baseline, caption_, small);
-    if (!HasStyle()) return;
-    const auto columns = static_cast<std::size_t>((FullWidth() - 20) * 5 / (3 * kCaptionSize));
-    canvas_.Text(10, baseline + 14, {"style_name", "style ", parts_.style_name, ""}, columns, small);
+    int baseline = height_ + kBelowCallout - 2;
+    const auto add = [&](const PictureText& text) {
+      canvas_.Text(kCaptionLeft, baseline, FullWidth() - 2 * kCaptionLeft, text, {kCaption, palette_.muted});
+      baseline += kCaptionHeight;
+    };
+    add({"", "", "schematic, " + mode_});
+    if (side_ != Side::kNone) add({"", "", Pointer()});
+    if (HasStyle()) add({"style_name", "style ", parts_.style_name});
   }
 
   // Says in words what the picture shows.
   std::string Description() const {
-    std::string text = caption_ + '.';
+    std::string text = "schematic, " + mode_ + (side_ == Side::kNone ? "." : ", " + Pointer() + '.');
     const auto add = [&](const PictureText& part) {
-      text += ' ' + part.before + CutText(part.value, kDescriptionColumns) + part.after + '.';
+      text += ' ' + part.before + CutForReaders(part.value) + '.';
     };
     if (parts_.title) add(*parts_.title);
     for (const PictureText& line : parts_.lines.shown) add(line);
     for (const PictureLight& light : parts_.lights.shown) {
-      text += " Light of phase " + std::to_string(light.phase) + ": " + std::to_string(light.seconds) + " s.";
+      text += " Light of phase " + std::to_string(light.phase) + ": " + std::to_string(light.seconds);
+      if (light.total_seconds > 0) text += " of " + std::to_string(light.total_seconds);
+      text += " s";
+      if (light.arrow > 0) text += ", arrow " + std::to_string(light.arrow);
+      text += '.';
     }
     for (const PictureCamera& camera : parts_.cameras.shown) {
       text += " Camera of type " + std::to_string(camera.type) + ": " + std::to_string(camera.speed) + '.';
     }
     if (parts_.lane != 0) text += " To lane " + std::to_string(parts_.lane) + '.';
     for (const PictureText& chip : parts_.chips.shown) add(chip);
-    if (!options_.problem.empty()) add({"", "Problem: ", options_.problem, ""});
+    if (!options_.problem.empty()) add({"", "Problem: ", options_.problem});
     return text;
   }
 
@@ -159,14 +166,19 @@ class Drawing {
   const PictureOptions& options_;
   const Side side_;
   const Palette& palette_;
+  const std::string mode_;
   const PictureContent content_;
   const int width_;  // of the callout
   const int height_;
-  const std::string caption_;
   PictureCanvas canvas_;
 };
 
 }  // namespace
+
+const char* PictureFonts() {
+  return "system-ui, -apple-system, 'Segoe UI', Roboto, 'Noto Sans', 'PingFang SC', 'Microsoft YaHei', "
+         "'Noto Sans CJK SC', 'WenQuanYi Micro Hei', sans-serif";
+}
 
 std::string Picture(const BubbleDrawDescriptor& descriptor, const PictureOptions& options) {
   const PictureParts parts = PartsOf(Members(descriptor));
@@ -177,7 +189,7 @@ std::string Picture(const BubbleDrawDescriptor& descriptor, const PictureOptions
 
 std::string PictureOfNothing(const PictureOptions& options) {
   PictureParts parts;
-  parts.title = PictureText{"", "", "nothing is drawn", ""};
+  parts.title = PictureText{"", "", "nothing is drawn"};
   PictureOptions named = options;
   if (named.kind.empty()) named.kind = "bubble";
   return Drawing(parts, named, options.is_day.value_or(true), Side::kNone).Draw();

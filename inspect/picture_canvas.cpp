@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "inspect/display_width.h"
+#include "util/escape.h"
 
 namespace kavrix::inspect {
 namespace {
@@ -10,42 +10,47 @@ namespace {
 constexpr Palette kDay = {"#e6edf3", "#ffffff", "#8796a5", "#17202a", "#53616f", "#eaeff4", "#b42318"};
 constexpr Palette kNight = {"#131a22", "#26313d", "#7d8b99", "#f2f6fa", "#b3c0cc", "#384654", "#ff9d92"};
 
-constexpr int kSmall = 10;  // the size of the texts under lights, cameras and lanes
-constexpr std::size_t kCellColumns = 12;
-constexpr int kChipSize = 11;
-constexpr std::size_t kChipColumns = 32;
+constexpr Letters kSmall = {10};  // under lights, cameras and lanes
+constexpr Letters kChipLetters = {11};
+constexpr int kChipTextWidth = 232;
+constexpr int kChipPadding = 7;
 
-std::string HexDigits(std::uint32_t word, int digits) {
-  constexpr char kDigits[] = "0123456789abcdef";
-  std::string hex;
-  for (int shift = 4 * (digits - 1); shift >= 0; shift -= 4) hex += kDigits[word >> shift & 0xF];
-  return hex;
+// Fills an element with the colour 0xAARRGGBB.
+void AddFill(XmlWriter& xml, std::uint32_t word) {
+  constexpr std::uint32_t kOpaque = 0xFF;
+  std::string text = "#";
+  AppendHex(text, word & 0xFFFFFF, 6);
+  xml.With("fill", text);
+  const std::uint32_t alpha = word >> 24;
+  if (alpha == kOpaque) return;
+  const std::string thousandths = std::to_string(1000 + alpha * 1000 / kOpaque).substr(1);
+  xml.With("fill-opacity", "0." + thousandths);
 }
 
 }  // namespace
 
 const Palette& PaletteOf(bool is_day) { return is_day ? kDay : kNight; }
 
-int TextWidth(std::string_view text, int size) { return static_cast<int>(DisplayWidth(text)) * size * 3 / 5; }
-
-std::string HexColour(std::uint32_t word) { return '#' + HexDigits(word, 6); }
-
-void PictureCanvas::Text(int x, int y, std::string_view text, const TextStyle& style) {
-  xml_.Begin("text").With("x", x).With("y", y).With("font-size", style.size);
-  xml_.With("fill", style.fill == nullptr ? palette_.text : style.fill);
-  if (style.is_bold) xml_.With("font-weight", "bold");
-  if (style.is_centred) xml_.With("text-anchor", "middle");
-  if (style.member != nullptr) xml_.With("data-member", style.member);
-  xml_.Text(text).End();
+int PictureCanvas::Text(int x, int y, int width, std::string_view text, const TextStyle& style) {
+  return Text(x, y, width, {"", "", std::string(text)}, style);
 }
 
-void PictureCanvas::Text(int x, int y, const PictureText& text, std::size_t columns, const TextStyle& style) {
-  xml_.Begin("text").With("x", x).With("y", y).With("font-size", style.size).With("fill", palette_.text);
+int PictureCanvas::Text(int x, int y, int width, const PictureText& text, const TextStyle& style) {
+  const Letters letters = style.letters;
+  const int before = TextWidth(text.before, letters);
+  const std::string value = CutText(text.value, letters, width - before);
+  xml_.Begin("text").With("x", x).With("y", y).With("font-size", letters.size);
+  xml_.With("fill", style.fill == nullptr ? palette_.text : style.fill);
+  if (letters.is_bold) xml_.With("font-weight", "bold");
+  if (style.is_centred) xml_.With("text-anchor", "middle");
   if (!text.before.empty()) xml_.Begin("tspan").With("fill", palette_.muted).Text(text.before).End();
-  const std::size_t around = text.before.size() + text.after.size();
-  xml_.Begin("tspan").With("data-member", text.path).Text(CutText(text.value, columns - around)).End();
-  if (!text.after.empty()) xml_.Begin("tspan").With("fill", palette_.muted).Text(text.after).End();
+  if (text.path.empty()) {
+    xml_.Text(value);
+  } else {
+    xml_.Begin("tspan").With("data-member", text.path).Text(value).End();
+  }
   xml_.End();
+  return before + TextWidth(value, letters);
 }
 
 void PictureCanvas::Rect(int x, int y, int width, int height, int radius, std::string_view fill,
@@ -77,14 +82,15 @@ void PictureCanvas::Circle(int x, int y, int radius, std::string_view fill, std:
   xml_.With("stroke-width", stroke_width).End();
 }
 
-// Shrinks a number of many digits until it fits into a circle.
+// Shrinks a number of many digits to fit into a circle, as long as it can be read.
 void PictureCanvas::NumberIn(int x, int y, std::int64_t number, int size, const char* fill) {
   constexpr int kDigits = 3;
-  constexpr int kLeastSize = 5;
+  constexpr int kLeastSize = 9;
+  constexpr int kRoom = 34;
   const std::string text = std::to_string(number);
   const int length = std::max(kDigits, static_cast<int>(text.size()));
   const int fitting = std::max(kLeastSize, size * kDigits / length);
-  Text(x, y + fitting * 7 / 20, text, {fitting, fill, true, true});
+  Text(x, y + fitting * 7 / 20, kRoom, text, {{fitting, true}, fill, true});
 }
 
 int PictureCanvas::HeightOf(const PictureLight& light) {
@@ -105,24 +111,18 @@ void PictureCanvas::Light(int x, int y, const PictureLight& light) {
     xml_.With("transform", "rotate(-90 " + std::to_string(middle) + ' ' + std::to_string(y + 22) + ')').End();
   }
   NumberIn(middle, y + 22, light.seconds, 17, "#ffffff");
-  const TextStyle small = {kSmall, palette_.muted, false, true};
+  constexpr int kRoom = kLightWidth - 4;
+  const TextStyle small = {kSmall, palette_.muted, true};
   int baseline = y + 55;
   if (!light.text.empty()) {
-    Text(middle, baseline, CutText(light.text, kCellColumns),
-         {kSmall, nullptr, true, true, light.path_of_text.c_str()});
+    Text(middle, baseline, kRoom, {light.path_of_text, "", light.text}, {{9, true}, nullptr, true});
     baseline += 14;
   }
-  const std::string total =
-      light.total_seconds > 0 ? "of " + std::to_string(light.total_seconds) + " s" : "seconds";
-  Text(middle, baseline, CutText(total, kCellColumns), small);
-  Text(middle, baseline + 14, CutText("phase " + std::to_string(light.phase), kCellColumns), small);
-  if (light.arrow > 0) {
-    const std::string arrow = CutText("arrow " + std::to_string(light.arrow), kCellColumns - 2);
-    const int left = middle - TextWidth(arrow, kSmall) / 2 - 9;
-    Text(middle, baseline + 28, arrow, small);
-    Path("M" + std::to_string(left) + ' ' + std::to_string(baseline + 28) + "v-4q0-3 3-3h2m-2-2l3 2l-3 2",
-         "none", palette_.muted, 1);
-  }
+  const bool has_total = light.total_seconds > 0;
+  Text(middle, baseline, kRoom, has_total ? "of " + std::to_string(light.total_seconds) + " s" : "seconds",
+       small);
+  Text(middle, baseline + 14, kRoom, "phase " + std::to_string(light.phase), small);
+  if (light.arrow > 0) Text(middle, baseline + 28, kRoom, "arrow " + std::to_string(light.arrow), small);
 }
 
 void PictureCanvas::Camera(int x, int y, const PictureCamera& camera) {
@@ -135,42 +135,44 @@ void PictureCanvas::Camera(int x, int y, const PictureCamera& camera) {
     Path("M" + std::to_string(middle + 5) + ' ' + std::to_string(y + 22) + "l5-4v8Z", "#17202a", "#17202a",
          1);
   }
-  Text(middle, y + 55, CutText("type " + std::to_string(camera.type), kCellColumns - 3),
-       {kSmall, palette_.muted, false, true});
+  Text(middle, y + 55, kCameraWidth - 4, "type " + std::to_string(camera.type),
+       {kSmall, palette_.muted, true});
 }
 
-void PictureCanvas::Lanes(int x, int y, int lanes) {
-  Rect(x, y, lanes * kLaneWidth, kLanesHeight, 3, "#3a4652", palette_.border);
-  const int target = x + (lanes - 1) * kLaneWidth;
-  Rect(target + 1, y + 1, kLaneWidth - 2, kLanesHeight - 2, 3, "#1769d2");
-  for (int lane = 1; lane < lanes; ++lane) {
+void PictureCanvas::Lanes(int x, int y, int target) {
+  Rect(x, y, LanesWidth(target), kLanesHeight, 0, "#3a4652");
+  const int left = x + (target - 1) * kLaneWidth;
+  Rect(left + 1, y + 1, kLaneWidth - 2, kLanesHeight - 2, 3, "#1769d2");
+  for (int lane = 1; lane < target; ++lane) {
     xml_.Begin("path").With(
         "d", "M" + std::to_string(x + lane * kLaneWidth) + ' ' + std::to_string(y + 4) + "v36");
     xml_.With("stroke", "#ffffff").With("stroke-width", 2).With("stroke-dasharray", "7 6").End();
   }
-  Path("M" + std::to_string(target + kLaneWidth / 2) + ' ' + std::to_string(y + 36) + "v-27m-7 8l7-8l7 8",
-       "none", "#ffffff", 3);
+  NumberIn(left + kLaneWidth / 2, y + kLanesHeight / 2, target, 17, "#ffffff");
 }
 
 int PictureCanvas::ChipWidth(const PictureText& text) {
-  return TextWidth(CutText(text.before + text.value + text.after, kChipColumns), kChipSize) + 14;
+  return std::min(TextWidth(text.before + text.value, kChipLetters), kChipTextWidth) + 2 * kChipPadding;
 }
 
 void PictureCanvas::Chip(int x, int y, const PictureText& text) {
   Rect(x, y, ChipWidth(text), kChipHeight, 6, palette_.chip);
-  if (text.value.empty()) return Text(x + 7, y + 14, text.before, {kChipSize});
-  Text(x + 7, y + 14, text, kChipColumns, {kChipSize});
+  Text(x + kChipPadding, y + 14, kChipTextWidth, text, {kChipLetters});
 }
 
 void PictureCanvas::Colour(int x, int y, std::uint32_t word) {
-  constexpr int kOpaque = 0xFF;
-  const int alpha = static_cast<int>(word >> 24);
   xml_.Begin("rect").With("x", x).With("y", y + 2).With("width", 12).With("height", 12).With("rx", 3);
-  xml_.With("fill", HexColour(word));
-  if (alpha != kOpaque) xml_.With("fill-opacity", "0." + std::to_string(alpha * 1000 / kOpaque));
+  AddFill(xml_, word);
   xml_.With("stroke", palette_.border).End();
-  const std::string hex = "0x" + HexDigits(word, 8);
-  Text(x + 18, y + 12, hex, {kSmall, palette_.muted});
+  std::string hex = "0x";
+  AppendHex(hex, word, 8);
+  Text(x + 18, y + 12, kColourWidth - 18, hex, {kSmall, palette_.muted});
+}
+
+void PictureCanvas::Bar(int x, int y, int height, std::uint32_t word) {
+  xml_.Begin("rect").With("x", x - 2).With("y", y).With("width", 4).With("height", height).With("rx", 2);
+  AddFill(xml_, word);
+  xml_.With("stroke", palette_.border).End();
 }
 
 void PictureCanvas::Image(int x, int y) {

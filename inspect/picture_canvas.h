@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "inspect/picture_parts.h"
+#include "inspect/text_width.h"
 #include "inspect/xml_writer.h"
 
 namespace kavrix::inspect {
@@ -22,17 +23,10 @@ struct Palette {
 
 const Palette& PaletteOf(bool is_day);
 
-// The width that a text is given, in pixels: more than most fonts need. A text that needs even more is
-// clipped.
-int TextWidth(std::string_view text, int size);
-
 struct TextStyle {
-  int size = 12;
-  const char* fill = nullptr;
-  bool is_bold = false;
-  bool is_centred = false;
-  const char* member =
-      nullptr;  // the path of the member whose value it is, for programs that read the picture
+  Letters letters;
+  const char* fill = nullptr;  // null: that of texts
+  bool is_centred = false;     // around x, else to the right of it
 };
 
 // Draws the shapes of a picture. Places are pixels from the upper left corner; that of a text is its
@@ -43,16 +37,16 @@ class PictureCanvas {
 
   XmlWriter& xml() { return xml_; }
 
-  void Text(int x, int y, std::string_view text, const TextStyle& style);
-  // A text of a member, with the words before and after it.
-  void Text(int x, int y, const PictureText& text, std::size_t columns, const TextStyle& style);
+  // Cuts a text to `width` and returns the width that it takes.
+  int Text(int x, int y, int width, std::string_view text, const TextStyle& style);
+  int Text(int x, int y, int width, const PictureText& text, const TextStyle& style);
   void Rect(int x, int y, int width, int height, int radius, std::string_view fill,
             const char* stroke = nullptr);
   void Path(std::string_view path, std::string_view fill, std::string_view stroke, int stroke_width);
   void Circle(int x, int y, int radius, std::string_view fill, std::string_view stroke, int stroke_width);
 
   // Each of these draws one part into a cell with (x, y) in its upper left corner.
-  static constexpr int kLightWidth = 72;
+  static constexpr int kLightWidth = 84;
   void Light(int x, int y, const PictureLight& light);
   static int HeightOf(const PictureLight& light);
   static constexpr int kCameraWidth = 54;
@@ -61,13 +55,17 @@ class PictureCanvas {
   static constexpr int kLaneWidth = 30;
   static constexpr int kLanesHeight = 44;
   static constexpr int kMostLanes = 8;
-  void Lanes(int x, int y, int lanes);  // the last of them is the one to change to
+  // The lane to change to, those left of it, and a bit of road, which may have more lanes or none.
+  void Lanes(int x, int y, int target);
+  static int LanesWidth(int target) { return target * kLaneWidth + kLaneWidth / 2; }
   static constexpr int kChipHeight = 20;
   static int ChipWidth(const PictureText& text);
   void Chip(int x, int y, const PictureText& text);
-  static constexpr int kColourWidth = 84;
+  static constexpr int kColourWidth = 86;
   static constexpr int kColourHeight = 16;
-  void Colour(int x, int y, std::uint32_t word);
+  void Colour(int x, int y, std::uint32_t word);  // 0xAARRGGBB
+  // A bar in a colour, along one side of a callout.
+  void Bar(int x, int y, int height, std::uint32_t word);
   static constexpr int kImageWidth = 24;
   void Image(int x, int y);
 
@@ -77,9 +75,6 @@ class PictureCanvas {
   const Palette& palette_;
   XmlWriter xml_;
 };
-
-// A word 0xAARRGGBB as "#rrggbb".
-std::string HexColour(std::uint32_t word);
 
 }  // namespace kavrix::inspect
 

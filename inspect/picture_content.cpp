@@ -4,39 +4,45 @@
 #include <string_view>
 #include <vector>
 
-#include "inspect/display_width.h"
+#include "inspect/text_width.h"
 
 namespace kavrix::inspect {
 namespace {
 
-constexpr int kLeastWidth = 170;
-constexpr int kMostWidth = 340;
+constexpr int kLeastWidth = 224;
+constexpr int kMostWidth = 384;
 constexpr int kGap = 6;
-constexpr int kTitleSize = 18;
-constexpr int kLineSize = 13;
-constexpr int kCountSize = 10;
+constexpr Letters kTitle = {18, true};
+constexpr Letters kLine = {13};
+constexpr Letters kProblem = {12};
+constexpr Letters kSmall = {11};
+constexpr Letters kCount = {10};
 constexpr std::size_t kTitleLines = 2;
-constexpr std::size_t kTitleColumns = 26;
-constexpr std::size_t kLineColumns = 40;
 constexpr std::size_t kProblemLines = 4;
 
 // Breaks a text at blanks, or between characters where it has none, into at most `lines`; the last is cut.
-std::vector<std::string> Wrapped(std::string_view text, std::size_t columns, std::size_t lines) {
+// Blanks at a break belong to the line before it, up to a few.
+std::vector<std::string> Wrapped(std::string_view text, Letters letters, int width, std::size_t lines) {
+  constexpr std::size_t kMostBlanks = 8;
   std::vector<std::string> wrapped;
   while (wrapped.size() + 1 < lines) {
-    const std::string_view line = text.substr(0, FittingLength(text, columns));
-    if (line.size() == text.size()) break;
-    const std::size_t blank = line.rfind(' ');
-    const std::size_t length =
-        blank == std::string_view::npos || blank < line.size() / 2 ? line.size() : blank + 1;
+    const std::size_t fitting = FittingLength(text, letters, width);
+    if (fitting == text.size()) break;
+    const std::size_t blank = text.rfind(' ', fitting);
+    std::size_t length = blank == std::string_view::npos || blank < fitting / 2 ? fitting : blank;
+    for (std::size_t i = 0; i < kMostBlanks && length < text.size() && text[length] == ' '; ++i) ++length;
     wrapped.emplace_back(text.substr(0, length));
     text.remove_prefix(length);
   }
-  wrapped.push_back(CutText(text, columns));
+  wrapped.push_back(CutText(text, letters, width));
   return wrapped;
 }
 
-PictureText More(std::size_t count) { return {"", '+' + std::to_string(count), "", ""}; }
+std::string_view WithoutBlanksAtEnd(std::string_view line) {
+  return line.substr(0, line.find_last_not_of(' ') + 1);
+}
+
+std::string More(std::size_t count) { return '+' + std::to_string(count); }
 
 // The parts of a callout, drawn below each other. Each takes the room down to y_, and then a gap.
 class Column {
@@ -62,52 +68,52 @@ class Column {
 
  private:
   void WrapTexts(const std::string& problem) {
-    if (!problem.empty()) problem_ = Wrapped(problem, kLineColumns, kProblemLines);
-    for (const std::string& line : problem_) Widen(TextWidth(line, kLineSize - 1));
-    if (parts_.title) {
-      const std::size_t around = parts_.title->before.size() + parts_.title->after.size();
-      title_ = Wrapped(parts_.title->value, kTitleColumns - around, kTitleLines);
-    }
+    if (!problem.empty()) problem_ = Wrapped(problem, kProblem, kMostWidth, kProblemLines);
+    if (!parts_.title) return;
+    const int around = TextWidth(parts_.title->before, kTitle) + Indent();
+    title_ = Wrapped(parts_.title->value, kTitle, kMostWidth - around, kTitleLines);
   }
+
+  int Indent() const { return parts_.has_icon ? PictureCanvas::kImageWidth : 0; }
 
   void Widen(int right) { width_ = std::max(width_, std::min(right, kMostWidth)); }
 
   void Title() {
-    const int left = parts_.has_icon ? PictureCanvas::kImageWidth : 0;
+    const int left = Indent();
     if (parts_.has_icon) canvas_.Image(0, y_ + 2);
     if (title_.empty()) {
       const bool says_more =
           !parts_.lights.shown.empty() || !parts_.cameras.shown.empty() || parts_.lane != 0;
       if (says_more && !parts_.has_icon) return;
-      canvas_.Text(left, y_ + kTitleSize - 2, "no text", {kLineSize, palette_.muted});
-      y_ += kTitleSize + kGap;
+      canvas_.Text(left, y_ + 16, kMostWidth, "no text", {kLine, palette_.muted});
+      y_ += kTitle.size + kGap;
       return;
     }
     const PictureText& title = *parts_.title;
     XmlWriter& xml = canvas_.xml();
-    xml.Begin("text").With("font-size", kTitleSize).With("font-weight", "bold").With("fill", palette_.text);
-    xml.With("y", y_ + kTitleSize - 1).With("x", left).Text(title.before).Begin("tspan");
+    xml.Begin("text").With("font-size", kTitle.size).With("font-weight", "bold").With("fill", palette_.text);
+    xml.With("y", y_ + kTitle.size - 1).With("x", left).Text(title.before).Begin("tspan");
     if (!title.path.empty()) xml.With("data-member", title.path);
     for (const std::string& line : title_) {
       const bool is_first = &line == &title_.front();
-      if (!is_first) xml.Begin("tspan").With("x", left).With("y", y_ + kTitleSize - 1);
+      if (!is_first) xml.Begin("tspan").With("x", left).With("y", y_ + kTitle.size - 1);
       xml.Text(line);
       if (!is_first) xml.End();
-      Widen(left + TextWidth(title.before + line + title.after, kTitleSize));
-      y_ += kTitleSize + kGap;
+      Widen(left + (is_first ? TextWidth(title.before, kTitle) : 0) +
+            TextWidth(WithoutBlanksAtEnd(line), kTitle));
+      y_ += kTitle.size + kGap;
     }
-    xml.End().Text(title.after).End();
+    xml.End().End();
     y_ += 2;
   }
 
   void Lines() {
     for (const PictureText& line : parts_.lines.shown) {
-      canvas_.Text(0, y_ + 13, line, kLineColumns, {kLineSize});
-      Widen(TextWidth(CutText(line.before + line.value + line.after, kLineColumns), kLineSize));
+      Widen(canvas_.Text(0, y_ + 13, kMostWidth, line, {kLine}));
       y_ += 19;
     }
     if (parts_.lines.left_out == 0) return;
-    canvas_.Text(0, y_ + 13, More(parts_.lines.left_out).before, {kLineSize, palette_.muted});
+    canvas_.Text(0, y_ + 13, kMostWidth, More(parts_.lines.left_out), {kLine, palette_.muted});
     y_ += 19;
   }
 
@@ -136,9 +142,8 @@ class Column {
   void EndCells(int x, int height, std::size_t left_out) {
     if (x == 0) return;
     if (left_out != 0) {
-      const std::string more = More(left_out).before;
-      canvas_.Text(x + 4, y_ + 26, more, {kCountSize, palette_.muted});
-      x += 4 + TextWidth(more, kCountSize);
+      x += 4;
+      x += canvas_.Text(x, y_ + 26, kMostWidth - x, More(left_out), {kCount, palette_.muted});
     }
     Widen(x);
     y_ += height + kGap;
@@ -147,13 +152,13 @@ class Column {
   void Lane() {
     if (parts_.lane == 0) return;
     if (parts_.lane > 0 && parts_.lane <= PictureCanvas::kMostLanes) {
-      const int lanes = static_cast<int>(parts_.lane);
-      canvas_.Lanes(0, y_, lanes);
-      Widen(lanes * PictureCanvas::kLaneWidth);
+      const int target = static_cast<int>(parts_.lane);
+      canvas_.Lanes(0, y_, target);
+      Widen(PictureCanvas::LanesWidth(target));
       y_ += PictureCanvas::kLanesHeight + 2;
     }
     const std::string text = "to lane " + std::to_string(parts_.lane);
-    canvas_.Text(0, y_ + 12, text, {kLineSize - 2, palette_.muted});
+    Widen(canvas_.Text(0, y_ + 12, kMostWidth, text, {kSmall, palette_.muted}));
     y_ += 16 + kGap;
   }
 
@@ -176,8 +181,9 @@ class Column {
       x += width + kGap;
     }
     if (few.left_out != 0) {
-      make_room(PictureCanvas::ChipWidth(More(few.left_out)));
-      canvas_.Chip(x, y_, More(few.left_out));
+      const PictureText more = {"", "", More(few.left_out)};
+      make_room(PictureCanvas::ChipWidth(more));
+      canvas_.Chip(x, y_, more);
     }
     y_ += height + kGap;
   }
@@ -185,7 +191,7 @@ class Column {
   void Problem() {
     if (problem_.empty()) return;
     for (const std::string& line : problem_) {
-      canvas_.Text(0, y_ + 12, line, {kLineSize - 1, palette_.problem});
+      Widen(canvas_.Text(0, y_ + 12, kMostWidth, WithoutBlanksAtEnd(line), {kProblem, palette_.problem}));
       y_ += 16;
     }
     y_ += kGap;

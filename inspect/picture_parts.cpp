@@ -6,19 +6,19 @@
 #include <string_view>
 
 #include "inspect/kind_model.h"
+#include "inspect/members.h"
 
 namespace kavrix::inspect {
 namespace {
 
 enum class Place { kLine, kChip };
 
-// Where a member stands as a text. A flag shows only the words before it.
+// Where a member stands as a text. Of a flag only the words before it are shown.
 struct TextRole {
   std::string_view path;
   bool is_text;  // the member's own type: some names are a text in one descriptor and a number in another
   Place place;
   std::string_view before = {};
-  std::string_view after = {};
 };
 
 // In the order of the picture: the first of the lines that a descriptor has is its title.
@@ -37,7 +37,7 @@ constexpr std::array<TextRole, 39> kTexts = {{
     {"fee", true, Place::kLine, "fee "},
     {"light", true, Place::kLine, "lights "},
     {"index", false, Place::kLine, "stop "},
-    {"distance", false, Place::kLine, "", " m"},
+    {"distance", false, Place::kLine, "distance "},
     {"label", true, Place::kChip},
     {"marker_type", false, Place::kChip},
     {"entries_value", false, Place::kChip, "entries "},
@@ -106,9 +106,18 @@ Part& At(std::vector<Part>& parts, std::size_t index) {
   return parts[index];
 }
 
-// The words whose topmost bit is set: a colour that is not clear, and never a positive float or a small
-// number.
-bool LooksLikeColour(std::uint32_t word) { return word >> 31 != 0; }
+// A word whose alpha is not 0 looks like a colour, unless it is as well a float that a size would be: from
+// 1/4 to 128, with at most five significant bits, such as 14 (0x41600000). A colour that is such a float,
+// black at a quarter (0x40000000) for one, is not shown.
+bool LooksLikeColour(std::uint32_t word) {
+  const bool looks_like_size = word >= 0x3E800000 && word <= 0x43000000 && word % 0x80000 == 0;
+  return word >> 24 != 0 && !looks_like_size;
+}
+
+bool IsBlank(const FlatMember& member) {
+  const auto* const text = std::get_if<std::string>(&member.value);
+  return text != nullptr && text->find_first_not_of(' ') == std::string::npos;
+}
 
 struct ShownText {
   std::string operator()(std::int64_t number) const { return std::to_string(number); }
@@ -143,19 +152,19 @@ class Sorter {
   }
 
   PictureParts Take() {
-    const auto by_table = [](const auto& a, const auto& b) { return a.first < b.first; };
-    std::stable_sort(texts_.begin(), texts_.end(), by_table);
-    for (auto& [role, text] : texts_) {
-      if (role->place == Place::kChip) {
-        parts_.chips.Add(std::move(text));
-      } else if (parts_.title) {
-        parts_.lines.Add(std::move(text));
-      } else {
-        parts_.title = std::move(text);
+    for (std::size_t i = 0; i < kTexts.size(); ++i) {
+      FewOf<PictureText, kMostOfARole>& texts = texts_[i];
+      if (kTexts[i].place == Place::kChip) {
+        parts_.chips.AddAll(texts);
+        continue;
       }
+      auto first = texts.shown.begin();
+      if (!parts_.title && first != texts.shown.end()) parts_.title = std::move(*first++);
+      texts.shown.erase(texts.shown.begin(), first);
+      parts_.lines.AddAll(texts);
     }
-    parts_.lights.AddAll(lights_);
-    parts_.cameras.AddAll(cameras_);
+    for (PictureLight& light : lights_) parts_.lights.Add(std::move(light));
+    for (const PictureCamera& camera : cameras_) parts_.cameras.Add(camera);
     return std::move(parts_);
   }
 
@@ -180,19 +189,23 @@ class Sorter {
   }
 
   void AddText(const std::string& path, const FlatMember& member) {
-    const bool always = std::holds_alternative<MarkerType>(member.value);  // has no value that means none
-    if (IsDefault(member) && !always) return;
+    if (!SaysSomething(member) || IsBlank(member)) return;
     const bool is_text = std::holds_alternative<std::string>(member.value);
     const auto is_it = [&](const TextRole& role) { return role.is_text == is_text && role.path == path; };
     const auto* const role = std::find_if(kTexts.begin(), kTexts.end(), is_it);
     if (role == kTexts.end()) return;
-    PictureText text = {member.path, std::string(role->before), std::visit(ShownText(), member.value),
-                        std::string(role->after)};
-    texts_.emplace_back(role, std::move(text));
+    FewOf<PictureText, kMostOfARole>& texts = texts_[static_cast<std::size_t>(role - kTexts.begin())];
+    const bool is_flag = std::holds_alternative<bool>(member.value);
+    const std::string words(role->before);
+    texts.Add(is_flag ? PictureText{member.path, "", words}
+                      : PictureText{member.path, words, std::visit(ShownText(), member.value)});
   }
 
+  // More of them are only counted.
+  static constexpr std::size_t kMostOfARole = 10;
+
   PictureParts parts_;
-  std::vector<std::pair<const TextRole*, PictureText>> texts_;
+  std::array<FewOf<PictureText, kMostOfARole>, kTexts.size()> texts_;
   std::vector<PictureLight> lights_;
   std::vector<PictureCamera> cameras_;
 };

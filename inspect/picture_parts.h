@@ -23,20 +23,21 @@ struct FewOf {
     }
   }
 
-  void AddAll(std::vector<Part>& parts) {
-    for (Part& part : parts) Add(std::move(part));
+  template <std::size_t kMostOfOthers>
+  void AddAll(FewOf<Part, kMostOfOthers>& others) {
+    for (Part& part : others.shown) Add(std::move(part));
+    left_out += others.left_out;
   }
 
   std::vector<Part> shown;
   std::size_t left_out = 0;
 };
 
-// A member's value between the words that the picture adds.
+// A member's value after the words that the picture adds.
 struct PictureText {
-  std::string path;
+  std::string path;  // empty: the picture's own
   std::string before;
   std::string value;
-  std::string after;
 };
 
 struct PictureLight {

@@ -5,11 +5,6 @@
 namespace kavrix {
 namespace {
 
-void AppendHex(std::string& line, unsigned number, int digits) {
-  for (int shift = 4 * (digits - 1); shift >= 0; shift -= 4)
-    line += "0123456789abcdef"[number >> shift & 0xF];
-}
-
 void AppendBytes(std::string& line, std::string_view bytes) {
   for (const char byte : bytes) {
     line += "\\x";
@@ -60,6 +55,11 @@ void AppendInQuotes(Line& line, std::string_view text) {
 }
 
 }  // namespace
+
+void AppendHex(std::string& line, std::uint32_t number, int digits) {
+  for (int shift = 4 * (digits - 1); shift >= 0; shift -= 4)
+    line += "0123456789abcdef"[number >> shift & 0xF];
+}
 
 void AppendControl(std::string& line, char32_t c) {
   if (c == '\n') {

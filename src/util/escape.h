@@ -1,6 +1,7 @@
 #ifndef KAVRIX_UTIL_ESCAPE_H_
 #define KAVRIX_UTIL_ESCAPE_H_
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,9 @@ void AppendQuoted(TextBuffer& line, std::string_view text);
 
 // Appends the escape of one control character, such as \n or \u001b.
 void AppendControl(std::string& line, char32_t c);
+
+// Appends the last `digits` hexadecimal digits of a number: AppendHex(line, 0x1ab, 4) appends 01ab.
+void AppendHex(std::string& line, std::uint32_t number, int digits);
 
 }  // namespace kavrix
 

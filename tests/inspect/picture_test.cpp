@@ -63,7 +63,7 @@ TEST(PictureTest, SamplesShowAllTheirTexts) {
       const auto* const text = std::get_if<std::string>(&member.value);
       if (text == nullptr || text->empty() || IsIdentifier(member.path)) continue;
       ASSERT_EQ(shown.count(member.path), 1U) << member.path << " of " << sample.name;
-      ExpectShown(shown.at(member.path), *text, sample.name);
+      ExpectShown(member.path, shown.at(member.path), *text, sample.name);
       ++texts;
     }
   }
@@ -76,8 +76,8 @@ TEST(PictureTest, TitleHasTheKindAndTheText) {
   const auto title = [&](const PictureOptions& options) {
     return Named(ReadXml(Picture(*descriptor, options)), "title").at(0).text;
   };
-  EXPECT_EQ(title({}), "TrafficDrawDescriptor: Jam");
-  EXPECT_EQ(title({"trafficBubble", {}, ""}), "trafficBubble: Jam");
+  EXPECT_EQ(title({}), "TrafficDrawDescriptor: Jam, day");
+  EXPECT_EQ(title({"trafficBubble", {}, ""}), "trafficBubble: Jam, day");
 }
 
 TEST(PictureTest, DayDiffersFromNightAndIsTheMode) {
@@ -135,6 +135,8 @@ TEST(PictureTest, LightsShowPhaseArrowAndSeconds) {
   EXPECT_THAT(texts, Not(Contains("arrow -1")));
   EXPECT_THAT(texts, Not(Contains("no text")));
   EXPECT_THAT(Picture(lights), HasSubstr("stroke-dasharray=\"59 119\""));  // half of the circle
+  EXPECT_THAT(Named(ReadXml(Picture(lights)), "desc").at(0).text,
+              AllOf(HasSubstr("Light of phase 1: 30 of 60 s, arrow 2."), HasSubstr("phase 7: 12 s.")));
 
   LightCountdownTimerDrawDescriptor light;
   light.light_type = 3;
@@ -167,6 +169,9 @@ TEST(PictureTest, LanesShowTheOneToChangeTo) {
   EXPECT_EQ(dashes(8), 7U);
   EXPECT_EQ(dashes(9), 0U);  // too many to be drawn
   EXPECT_THAT(VisibleTexts(Picture(change)), Contains("to lane 9"));
+  change.target_lane = 3;
+  EXPECT_THAT(VisibleTexts(Picture(change)), AllOf(Contains("3"), Contains("to lane 3")));
+  EXPECT_THAT(Picture(change), HasSubstr("width=\"105\" height=\"44\""));  // three lanes, and a bit of road
   change.target_lane = 0;
   EXPECT_THAT(VisibleTexts(Picture(change)), Not(Contains(HasSubstr("lane"))));
 }
@@ -181,6 +186,41 @@ TEST(PictureTest, FlagsAndCodesAreBadges) {
   EXPECT_THAT(VisibleTexts(Picture(via)), Not(Contains("selected")));
   MarkerDrawDescriptor marker;
   EXPECT_THAT(VisibleTexts(Picture(marker)), AllOf(Contains("no text"), Contains("Poi")));
+}
+
+TEST(PictureTest, SaysNothingThatTheDescriptorDoesNot) {
+  TurnArrowBubbleDrawDescriptor turn;
+  turn.distance = 240;
+  turn.type = 4;
+  EXPECT_THAT(VisibleTexts(Picture(turn)), AllOf(Contains("distance 240"), Contains("type 4")));
+  CameraDrawDescriptor camera;
+  camera.distance = 240;
+  EXPECT_THAT(VisibleTexts(Picture(camera)), Contains("distance 240"));
+}
+
+TEST(PictureTest, ColoursMayBeTransparent) {
+  DestNameEtaDrawDescriptor eta;
+  eta.style_word = 0x66FF0000;
+  eta.second_style_value = 0x1900FF00;       // an alpha of 25
+  eta.third_mode_style_value = 0x00FFFFFF;   // an alpha of 0
+  eta.fourth_mode_style_value = 0x41600000;  // the bits of the float 14
+  const std::string picture = Picture(eta);
+  EXPECT_THAT(VisibleTexts(picture), AllOf(Contains("0x66ff0000"), Contains("0x1900ff00")));
+  EXPECT_THAT(VisibleTexts(picture),
+              AllOf(Not(Contains("0x00ffffff")), Not(Contains("0x41600000")), Not(Contains("0xffffff"))));
+  EXPECT_THAT(picture, HasSubstr("fill=\"#00ff00\" fill-opacity=\"0.098\""));
+  std::size_t transparent = 0;
+  for (const XmlElement& element : Named(ReadXml(picture), "rect")) {
+    transparent += element.attributes.at("fill") == "#ff0000" && element.Has("fill-opacity");
+  }
+  EXPECT_EQ(transparent, 2U);  // the bar too
+}
+
+TEST(PictureTest, ModeOfAFailedNameIsNotKnown) {
+  const std::string picture = Picture(BubbleDrawDescriptor(), {"", {}, "no JSON"});
+  EXPECT_THAT(VisibleTexts(picture), Contains("schematic, mode not known, drawn as night"));
+  EXPECT_THAT(VisibleTexts(Picture(BubbleDrawDescriptor(), {"", true, "no JSON"})),
+              Contains(HasSubstr("mode not known, drawn as day")));
 }
 
 TEST(PictureTest, ProblemIsSaidInThePicture) {

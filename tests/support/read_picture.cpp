@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "inspect/display_width.h"
+#include "inspect/text_width.h"
 #include "map_resource/map_resource_transform.h"
 #include "tests/support/read_xml.h"
 #include "util/muted_logs.h"
@@ -54,7 +55,8 @@ std::string WithReplacements(std::string_view text) {
   return cleaned;
 }
 
-void ExpectShown(const std::string& shown, const std::string& text, const std::string& where) {
+void ExpectShown(const std::string& path, const std::string& shown, const std::string& text,
+                 const std::string& where) {
   const std::string expected = WithReplacements(text);
   if (shown == expected) return;
   ASSERT_GE(shown.size(), 3U) << where;
@@ -62,6 +64,9 @@ void ExpectShown(const std::string& shown, const std::string& text, const std::s
   EXPECT_EQ(shown.substr(0, shown.size() - 3), expected.substr(0, shown.size() - 3)) << where;
   EXPECT_GE(inspect::DisplayWidth(expected) + expected.size() / 4, 12U)
       << where << " is short enough to be shown";
+  const bool is_in_cell = path.rfind("light_descriptors", 0) == 0;
+  EXPECT_GE(inspect::TextWidth(shown, {11}), is_in_cell ? 70 : 200)
+      << where << " has room for more: " << shown;
 }
 
 }  // namespace kavrix::test

@@ -26,8 +26,9 @@ std::map<std::string, std::string> MemberTexts(const std::string& picture);
 // What a reader must find in a picture or page for a text.
 std::string WithReplacements(std::string_view text);
 
-// A text is shown as a whole, or so is its beginning when it is a long one.
-void ExpectShown(const std::string& shown, const std::string& text, const std::string& where);
+// A member's text is shown as a whole or, where it has no room, as much of it as has.
+void ExpectShown(const std::string& path, const std::string& shown, const std::string& text,
+                 const std::string& where);
 
 }  // namespace kavrix::test
 

@@ -24,7 +24,7 @@ TEST(DrawCommandTest, PrintsOnePicture) {
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.errors, "");
   EXPECT_EQ(ReadXml(result.output).at(0).name, "svg");
-  EXPECT_EQ(Named(ReadXml(result.output), "title").at(0).text, "trafficBubble: Jam");
+  EXPECT_EQ(Named(ReadXml(result.output), "title").at(0).text, "trafficBubble: Jam, day");
   EXPECT_THAT(Texts(result.output), HasSubstr("Jam\n"));
   EXPECT_EQ(RunTool({"draw"}, std::string(kJam) + "\n").output, result.output);
   EXPECT_EQ(RunTool({"draw"}, kJam).output, result.output);

@@ -60,6 +60,13 @@ TEST(EscapeTest, ControlCharactersBackslashesAndBytesThatAreNotUtf8AreEscaped) {
   EXPECT_EQ(Quoted(text), R"("a\n\r\tb\u001b\u007f\u0085\u2028\\c\xff\xe2\x80z")");
 }
 
+TEST(EscapeTest, HexadecimalDigitsAreTheLastOnes) {
+  std::string line = "0x";
+  AppendHex(line, 0x1ABCD, 4);
+  AppendHex(line, 0xF, 2);
+  EXPECT_EQ(line, "0xabcd0f");
+}
+
 TEST(EscapeTest, QuotesAreEscapedOnlyInsideQuotes) {
   EXPECT_EQ(Escaped(R"("a" \")"), R"("a" \\")");
   EXPECT_EQ(Quoted(R"("a" \")"), R"("\"a\" \\\"")");
