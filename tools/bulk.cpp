@@ -43,9 +43,13 @@ NameResult ResultOf(const std::function<std::string()>& work) {
   }
 }
 
-void AddBulkOptions(Command& command, BulkOptions& options) {
+void AddJobs(Command& command, BulkOptions& options) {
   constexpr int kMostJobs = 256;
   command.Integer("--jobs", options.jobs, 1, kMostJobs, "Number of threads that work");
+}
+
+void AddBulkOptions(Command& command, BulkOptions& options) {
+  AddJobs(command, options);
   command.Flag("--unbuffered", options.unbuffered, "Write each result as soon as it is ready");
 }
 

@@ -31,7 +31,10 @@ struct BulkOptions {
   bool unbuffered = false;         // write each result as soon as it is ready, as on a terminal
 };
 
-// Adds --jobs and --unbuffered to a command.
+// Adds --jobs to a command.
+void AddJobs(Command& command, BulkOptions& options);
+
+// Adds --jobs and --unbuffered.
 void AddBulkOptions(Command& command, BulkOptions& options);
 
 // Works on many names, on `jobs` threads, and writes results to standard output and problems to standard

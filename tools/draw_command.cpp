@@ -5,6 +5,7 @@
 
 #include "inspect/decoder.h"
 #include "inspect/drawn_name.h"
+#include "inspect/explain.h"
 #include "tools/error_line.h"
 #include "tools/hints.h"
 #include "tools/name_options.h"
@@ -49,7 +50,7 @@ int Run(const NameOptions& options) {
 CommandDescription DrawCommand() {
   const auto list_options = [](Command& command) -> std::function<int()> {
     const auto options = std::make_shared<NameOptions>();
-    AddOneNameOptions(command, *options, "The resource name; without it, read from standard input");
+    AddDrawnNameOptions(command, *options, "One resource name; without it, read from standard input");
     command.Footer(
         "Prints one SVG. The picture is schematic: it shows what a descriptor says, not how a client draws "
         "it.\n"

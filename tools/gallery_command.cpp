@@ -24,6 +24,19 @@
 namespace kavrix::tools {
 namespace {
 
+// To find the mode in a longer name takes too long.
+constexpr std::size_t kLongestExplained = 16384;
+
+bool HasStyle(const BubbleDrawDescriptor& descriptor) {
+  const auto is_style_value = [](const FlatMember& member) {
+    return member.path == "style_name" || std::holds_alternative<std::uint32_t>(member.value) ||
+           std::holds_alternative<float>(member.value);
+  };
+  const std::vector<FlatMember> members = FlatMembers(descriptor);
+  return std::any_of(members.begin(), members.end(),
+                     [&](const FlatMember& member) { return is_style_value(member) && !IsDefault(member); });
+}
+
 // More make a page that browsers are slow with, and would have to be held in memory.
 constexpr std::size_t kMostNames = 1000;
 
@@ -52,6 +65,10 @@ class Painter {
  private:
   GalleryPicture InMode(const inspect::Decoded& decoded, const std::string& problem, bool is_day) {
     const std::string mode = is_day ? "day" : "night";
+    if (decoded.failed) {
+      return {inspect::PictureOf(decoded, entry_point_, problem, is_day),
+              mode + "; the mode of the name is not known"};
+    }
     if (decoded.descriptor->mode_flag == is_day) {
       return {inspect::PictureOf(decoded, entry_point_, problem), mode + ", as the name decodes"};
     }
@@ -59,12 +76,12 @@ class Painter {
       const inspect::Decoded other = decoder_.Decode(*name);
       return {inspect::PictureOf(other, entry_point_, problem), mode};
     }
-    const std::string note =
-        decoded.descriptor->style_name.empty() ? "" : ", with the style values of the other mode";
+    const std::string note = HasStyle(*decoded.descriptor) ? ", with the style values of the other mode" : "";
     return {inspect::PictureOf(decoded, entry_point_, problem, is_day), mode + note};
   }
 
   std::optional<std::string> OtherName(const std::string& name, bool is_day) const {
+    if (name.size() > kLongestExplained) return std::nullopt;
     try {
       return inspect::InMode(entry_point_ == EntryPoint::kMarker ? inspect::ExplainMarkerName(name, setup_)
                                                                  : inspect::ExplainBubbleName(name, setup_),
@@ -96,7 +113,7 @@ class Gallery {
   bool IsEmpty() const { return entries_.empty(); }
 
   // The page; the gallery is then empty.
-  std::string Page() {
+  std::string Page(const std::string& title) {
     std::vector<GalleryGroup> groups;
     for (const BubbleKindInfo* const info : AllKindInfos())
       groups.push_back({std::string(info->Name()), {}, 0});
@@ -109,7 +126,7 @@ class Gallery {
       group->failed += entry.failed ? 1 : 0;
     }
     entries_.clear();
-    return ToPage(groups, left_out_);
+    return ToPage(title, groups, left_out_);
   }
 
  private:
@@ -157,9 +174,10 @@ int Run(const NameOptions& options) {
   std::size_t failed = 0;
   const bool is_any_given = !options.bulk.names.empty() || isatty(STDIN_FILENO) == 0;
   if (is_any_given) failed = AddNames(options, setup, gallery);
-  if (gallery.IsEmpty()) AddSamples(setup, gallery);
+  const bool has_names = !gallery.IsEmpty();
+  if (!has_names) AddSamples(setup, gallery);
   Output output(false);
-  output.Write(gallery.Page());
+  output.Write(gallery.Page(has_names ? "Bubbles" : "Samples"));
   output.Flush();
   if (gallery.left_out() != 0) {
     WriteErrorLine("the page has the first " + std::to_string(kMostNames) + " names; " +
@@ -173,7 +191,9 @@ int Run(const NameOptions& options) {
 CommandDescription GalleryCommand() {
   const auto list_options = [](Command& command) -> std::function<int()> {
     const auto options = std::make_shared<NameOptions>();
-    AddNameOptions(command, *options);
+    AddDrawnNameOptions(command, *options,
+                        "Resource names; without any, read one a line from standard input");
+    AddJobs(command, options->bulk);
     command.Footer(
         "Prints one HTML page that needs nothing else: no script, nothing fetched. Each name is drawn by day "
         "and\n"

@@ -2,6 +2,7 @@
 
 #include "inspect/display_width.h"
 #include "inspect/members.h"
+#include "inspect/picture.h"
 #include "inspect/xml_writer.h"
 #include "tools/text_output.h"
 
@@ -28,18 +29,17 @@ constexpr char kStyle[] = R"(
 }
 * { box-sizing: border-box; }
 body { margin: 0 auto; max-width: 64rem; padding: 1rem; background: var(--page); color: var(--text);
-       font: 1rem/1.5 system-ui, -apple-system, "Segoe UI", Roboto, "Noto Sans", "PingFang SC", "Microsoft YaHei",
-             "Noto Sans CJK SC", "WenQuanYi Micro Hei", sans-serif; }
+       line-height: 1.5; }
 a { color: var(--link); }
 nav ul { display: flex; flex-wrap: wrap; gap: 0.25rem 1rem; margin: 0; padding: 0; list-style: none; }
 article { margin: 0 0 1.5rem; padding: 1rem; border: 1px solid var(--line); border-radius: 0.5rem; background: var(--box); }
 code { font-family: ui-monospace, "DejaVu Sans Mono", "WenQuanYi Micro Hei Mono", monospace; font-size: 0.85rem;
        overflow-wrap: anywhere; unicode-bidi: isolate; }
-article p { margin: 0 0 0.75rem; }
-.pictures { display: flex; flex-wrap: wrap; gap: 1rem; }
-figure { margin: 0; max-width: 100%; }
+h3 { margin: 0 0 0.75rem; font-size: 1rem; font-weight: normal; }
+.pictures { display: flex; flex-wrap: wrap; gap: 1rem; overflow-x: auto; }
+figure { margin: 0; }
 figcaption, .muted { color: var(--muted); font-size: 0.85rem; }
-svg { display: block; max-width: 100%; height: auto; }
+svg { display: block; }
 .problems { margin: 0.75rem 0 0; padding-left: 1.25rem; overflow-wrap: anywhere; }
 .error { color: var(--error); }
 .warning { color: var(--warning); }
@@ -68,23 +68,19 @@ void AddProblems(XmlWriter& html, const std::vector<inspect::Problem>& problems)
   html.End();
 }
 
-bool IsShown(const FlatMember& member) {
-  return !IsDefault(member) || std::holds_alternative<MarkerType>(member.value);
-}
-
 void AddMembers(XmlWriter& html, const BubbleDrawDescriptor& descriptor) {
   std::vector<FlatMember> shown;
   std::size_t defaults = 0;
   for (FlatMember& member : inspect::Members(descriptor)) {
-    if (IsShown(member)) {
+    if (inspect::SaysSomething(member)) {
       shown.push_back(std::move(member));
     } else {
       ++defaults;
     }
   }
   html.Begin("details").Begin("summary").Element("code", descriptor.TypeName());
-  html.Text(": " + std::to_string(shown.size()) + " members set, " + std::to_string(defaults) +
-            " left at defaults");
+  html.Text(": " + std::to_string(shown.size()) + " values, " + std::to_string(defaults) +
+            " members at their defaults");
   html.End();
   html.Begin("table").Begin("tbody");
   for (std::size_t i = 0; i < shown.size() && i < kMostMembers; ++i) {
@@ -110,14 +106,19 @@ std::string Counted(std::size_t names, std::size_t failed) {
   return failed == 0 ? text : text + ", " + std::to_string(failed) + " failed";
 }
 
-void AddHead(XmlWriter& html) {
+std::string MoreNames(std::size_t left_out) {
+  return left_out == 1 ? "1 more name is left out." : std::to_string(left_out) + " more names are left out.";
+}
+
+void AddHead(XmlWriter& html, const std::string& title) {
   html.Begin("head").Begin("meta").With("charset", "utf-8").EndEmpty();
   html.Markup(kPolicy);
   html.Begin("meta")
       .With("name", "viewport")
       .With("content", "width=device-width, initial-scale=1")
       .EndEmpty();
-  html.Element("title", "Bubbles").Begin("style").Markup(kStyle).End().End();
+  html.Element("title", title).Begin("style").Markup(kStyle);
+  html.Markup(std::string("body { font-family: ") + inspect::PictureFonts() + "; }\n").End().End();
 }
 
 void AddIndex(XmlWriter& html, const std::vector<GalleryGroup>& groups) {
@@ -140,7 +141,13 @@ void AddGroup(XmlWriter& html, const GalleryGroup& group) {
 
 std::string ToHtml(const GalleryName& name) {
   XmlWriter html;
-  html.Begin("article").Begin("p").Element("code", CutText(name.decoded.name, kNameColumns)).End();
+  html.Begin("article").Begin("h3");
+  if (name.decoded.name.empty()) {
+    html.Begin("span").With("class", "muted").Text("(empty name)").End();
+  } else {
+    html.Element("code", CutText(name.decoded.name, kNameColumns));
+  }
+  html.End();
   html.Begin("div").With("class", "pictures");
   for (const GalleryPicture& picture : name.pictures) {
     html.Begin("figure").Markup(picture.svg).Element("figcaption", picture.caption).End();
@@ -157,7 +164,7 @@ std::string ToHtml(const GalleryName& name) {
   return html.End().Take();
 }
 
-std::string ToPage(const std::vector<GalleryGroup>& groups, std::size_t left_out) {
+std::string ToPage(const std::string& title, const std::vector<GalleryGroup>& groups, std::size_t left_out) {
   std::size_t names = 0;
   std::size_t failed = 0;
   for (const GalleryGroup& group : groups) {
@@ -170,13 +177,13 @@ std::string ToPage(const std::vector<GalleryGroup>& groups, std::size_t left_out
       .With("xmlns", "http://www.w3.org/1999/xhtml")
       .With("lang", "en");
   html.With("xml:lang", "en");
-  AddHead(html);
-  html.Markup("\n").Begin("body").Begin("header").Element("h1", "Bubbles");
+  AddHead(html, title);
+  html.Markup("\n").Begin("body").Begin("header").Element("h1", title);
   html.Element("p", Counted(names, failed) +
-                        ", by kind in the order of recognition. The pictures are schematic: they show what a "
-                        "descriptor says, not how a client draws it.");
+                        ", by kind. The pictures are schematic: they show what a descriptor says, not how a "
+                        "client draws it.");
   if (left_out != 0) {
-    html.Begin("p").With("class", "error").Text("left out: " + Counted(left_out, 0) + " more").End();
+    html.Begin("p").With("class", "error").Text(MoreNames(left_out)).End();
   }
   AddIndex(html, groups);
   html.End().Markup("\n").Begin("main");

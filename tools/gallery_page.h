@@ -36,7 +36,7 @@ struct GalleryGroup {
 
 // One page that is HTML and well-formed XML, has no script and fetches nothing. Empty groups are left out.
 // `left_out` names are said to be missing.
-std::string ToPage(const std::vector<GalleryGroup>& groups, std::size_t left_out);
+std::string ToPage(const std::string& title, const std::vector<GalleryGroup>& groups, std::size_t left_out);
 
 }  // namespace kavrix::tools
 

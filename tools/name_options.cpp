@@ -18,12 +18,15 @@ namespace {
 void AddNames(Command& command, NameOptions& options, const std::string& help) {
   command.Arguments("NAME", options.bulk.names, help);
   command.Text("--prefix", options.prefix, "Prefix of the names instead of kavrix://resource/");
-  command.Text("--context-name", options.context_name, "Context name in the log records");
   command.Flag("--marker", options.marker, "The names are marker names, not bubble names");
 }
 
 void AddNull(Command& command, NameOptions& options) {
   command.Flag("--null", options.bulk.null_delimited, "Names on standard input end in NUL, not newline");
+}
+
+void AddContextName(Command& command, NameOptions& options) {
+  command.Text("--context-name", options.context_name, "Context name in the log records");
 }
 
 void AddConfig(Command& command, NameOptions& options) {
@@ -40,11 +43,12 @@ void AddNameOptions(Command& command, NameOptions& options) {
 
 void AddNameOptionsBesidesConfig(Command& command, NameOptions& options, const std::string& help) {
   AddNames(command, options, help);
+  AddContextName(command, options);
   AddBulkOptions(command, options.bulk);
   AddNull(command, options);
 }
 
-void AddOneNameOptions(Command& command, NameOptions& options, const std::string& help) {
+void AddDrawnNameOptions(Command& command, NameOptions& options, const std::string& help) {
   AddNames(command, options, help);
   AddNull(command, options);
   AddConfig(command, options);

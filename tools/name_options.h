@@ -33,8 +33,8 @@ void AddNameOptions(Command& command, NameOptions& options);
 // All of them but --config. `help` is of the names.
 void AddNameOptionsBesidesConfig(Command& command, NameOptions& options, const std::string& help);
 
-// Those that make sense for one name.
-void AddOneNameOptions(Command& command, NameOptions& options, const std::string& help);
+// Those that change a picture, which shows no log records.
+void AddDrawnNameOptions(Command& command, NameOptions& options, const std::string& help);
 
 }  // namespace kavrix::tools
 

@@ -55,6 +55,7 @@ TEST(DrawCommandTest, BrokenNameIsDrawnAsFarAsItDecodes) {
   EXPECT_THAT(payload.errors, HasSubstr("kavrix-resource: the payload is no JSON object"));
   EXPECT_THAT(Texts(payload.output), HasSubstr("no JSON object"));
   EXPECT_EQ(Texts(payload.output).find("nothing is drawn"), std::string::npos);
+  EXPECT_THAT(Texts(payload.output), HasSubstr("mode not known"));
 }
 
 TEST(DrawCommandTest, NameThatIsNotDecodedIsAPictureThatSaysSo) {
@@ -87,6 +88,7 @@ TEST(DrawCommandTest, OptionsAreThoseOfOtherCommands) {
   const std::string with_newline = "kavrix://resource/{\"content\":\"a\n\",\"mode\":0}.trafficBubble";
   EXPECT_EQ(RunTool({"draw", "--null"}, with_newline + '\0').status, 0);
   EXPECT_EQ(RunTool({"draw", "--jobs", "2", kJam}).status, 2);
+  EXPECT_EQ(RunTool({"draw", "--context-name", "c", kJam}).status, 2);
 }
 
 TEST(DrawCommandTest, FullDiskIsAnError) {
