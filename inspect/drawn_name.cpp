@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "inspect/explain.h"
 #include "inspect/picture.h"
 
 namespace kavrix::inspect {
@@ -10,10 +9,6 @@ namespace kavrix::inspect {
 std::string KindNameOf(const Decoded& decoded, EntryPoint entry_point) {
   if (entry_point == EntryPoint::kMarker) return std::string(kMarkerNameInfo.Name());
   return decoded.kind ? std::string(InfoOf(*decoded.kind).Name()) : "";
-}
-
-std::vector<Problem> ProblemsOf(const std::string& name, EntryPoint entry_point) {
-  return entry_point == EntryPoint::kMarker ? CheckMarkerName(name) : CheckBubbleName(name);
 }
 
 std::string WhyFailed(const Decoded& decoded, const std::vector<Problem>& problems) {

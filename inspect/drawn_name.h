@@ -14,9 +14,6 @@ namespace kavrix::inspect {
 // name that has no marker.
 std::string KindNameOf(const Decoded& decoded, EntryPoint entry_point);
 
-// The problems of a name.
-std::vector<Problem> ProblemsOf(const std::string& name, EntryPoint entry_point);
-
 // Says why the decode of a name with these problems failed: the message of the first error. Empty when it did
 // not fail.
 std::string WhyFailed(const Decoded& decoded, const std::vector<Problem>& problems);

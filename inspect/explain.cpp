@@ -165,11 +165,15 @@ Explanation ExplainMarkerName(const std::string& resource_name, const TransformS
 }
 
 std::vector<Problem> CheckBubbleName(const std::string& resource_name) {
-  return FindProblems(NameReading(resource_name, EntryPoint::kBubble));
+  return ProblemsOf(resource_name, EntryPoint::kBubble);
 }
 
 std::vector<Problem> CheckMarkerName(const std::string& resource_name) {
-  return FindProblems(NameReading(resource_name, EntryPoint::kMarker));
+  return ProblemsOf(resource_name, EntryPoint::kMarker);
+}
+
+std::vector<Problem> ProblemsOf(const std::string& resource_name, EntryPoint entry_point) {
+  return FindProblems(NameReading(resource_name, entry_point));
 }
 
 }  // namespace kavrix::inspect

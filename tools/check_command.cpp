@@ -42,8 +42,7 @@ int Run(const CheckOptions& options) {
   Hints hints(options.names);
   const auto check = [&](const InputName& given) -> NameResult {
     const std::string& name = given.name;
-    const std::vector<inspect::Problem> problems =
-        options.names.marker ? inspect::CheckMarkerName(name) : inspect::CheckBubbleName(name);
+    const std::vector<inspect::Problem> problems = inspect::ProblemsOf(name, options.names.Entry());
     if (problems.empty()) return {};
     const auto is_error = [](const inspect::Problem& problem) {
       return problem.severity == inspect::Severity::kError;

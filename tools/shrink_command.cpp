@@ -28,8 +28,7 @@ int Run(const ShrinkOptions& options) {
     const std::optional<std::string> shrunk = inspect::Shrink(given.name, entry_point);
     if (!shrunk) return {"", false, "it does not fail: there is nothing to shrink"};
     if (options.format == "text") return {*shrunk + '\n', true, ""};
-    const auto problems =
-        options.names.marker ? inspect::CheckMarkerName(*shrunk) : inspect::CheckBubbleName(*shrunk);
+    const auto problems = inspect::ProblemsOf(*shrunk, entry_point);
     return {inspect::ToJsonLine(decoder.Decode(*shrunk), problems), true, ""};
   };
   return WorkInBulk(options.names.bulk, shrink) == 0 ? 0 : 1;

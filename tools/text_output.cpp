@@ -110,7 +110,7 @@ std::string Printable(std::string_view text) {
 std::string ToText(const inspect::Decoded& decoded, const TextOptions& options) {
   Page page(options);
   page.Headline(decoded.name);
-  page.Line("kind", decoded.kind ? std::string(MarkerOf(*decoded.kind).substr(1)) : page.Dim("none"));
+  page.Line("kind", decoded.kind ? std::string(InfoOf(*decoded.kind).Name()) : page.Dim("none"));
   if (decoded.exception) page.Line("exception", page.Bad(*decoded.exception));
   if (decoded.descriptor == nullptr) {
     page.Line("descriptor", page.Dim("none, out was left untouched"));
