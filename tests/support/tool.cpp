@@ -36,7 +36,9 @@ class TemporaryFile {
   std::string path_ = "/tmp/kavrix_test_XXXXXX";
 };
 
-ToolResult Run(const std::vector<std::string>& command, const std::string& input) {
+}  // namespace
+
+ToolResult RunProgram(const std::vector<std::string>& command, const std::string& input) {
   const TemporaryFile in(input);
   const TemporaryFile out;
   const TemporaryFile err;
@@ -57,8 +59,6 @@ ToolResult Run(const std::vector<std::string>& command, const std::string& input
   return {WIFEXITED(wait_status) ? WEXITSTATUS(wait_status) : -1, out.Text(), err.Text()};
 }
 
-}  // namespace
-
 std::vector<std::string> ToolResult::Lines() const {
   std::vector<std::string> lines;
   std::istringstream stream(output);
@@ -75,11 +75,11 @@ std::vector<nlohmann::json> ToolResult::JsonLines() const {
 ToolResult RunTool(const std::vector<std::string>& arguments, const std::string& input) {
   std::vector<std::string> command = {KAVRIX_TOOL};
   command.insert(command.end(), arguments.begin(), arguments.end());
-  return Run(command, input);
+  return RunProgram(command, input);
 }
 
 ToolResult RunShell(const std::string& command) {
-  return Run({"/bin/sh", "-c", "TOOL='" KAVRIX_TOOL "'; " + command}, "");
+  return RunProgram({"/bin/sh", "-c", "TOOL='" KAVRIX_TOOL "'; " + command});
 }
 
 std::vector<std::string> ToolCommands() {

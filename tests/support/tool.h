@@ -20,6 +20,9 @@ struct ToolResult {
 // Runs the real tool as a process, without a terminal.
 ToolResult RunTool(const std::vector<std::string>& arguments, const std::string& input = "");
 
+// Runs a program, given by its path and its arguments.
+ToolResult RunProgram(const std::vector<std::string>& command, const std::string& input = "");
+
 // Runs a shell command in which $TOOL is the tool, for pipes and redirections.
 ToolResult RunShell(const std::string& command);
 
