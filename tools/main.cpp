@@ -5,6 +5,7 @@
 #include "tools/check_command.h"
 #include "tools/command_line.h"
 #include "tools/compare_command.h"
+#include "tools/config_command.h"
 #include "tools/decode_command.h"
 #include "tools/draw_command.h"
 #include "tools/encode_command.h"
@@ -23,10 +24,10 @@ int main(int argc, char** argv) {
   std::cerr.tie(nullptr);  // else a message would flush standard output, and hide what goes wrong there
   (void)std::signal(SIGPIPE, SIG_IGN);  // a closed pipe is then an error of the write
   try {
-    return RunCommandLine(
-        {DecodeCommand(), ExplainCommand(), CheckCommand(), CompareCommand(), DrawCommand(), GalleryCommand(),
-         ExtractCommand(), SurveyCommand(), ShrinkCommand(), EncodeCommand(), KindsCommand(), IconsCommand()},
-        argc, argv);
+    return RunCommandLine({DecodeCommand(), ExplainCommand(), CheckCommand(), CompareCommand(), DrawCommand(),
+                           GalleryCommand(), ExtractCommand(), SurveyCommand(), ShrinkCommand(),
+                           EncodeCommand(), KindsCommand(), IconsCommand(), ConfigCommand()},
+                          argc, argv);
   } catch (const ReaderGone&) {
     constexpr int kStatusOfClosedPipe = 141;  // as if the signal had ended the tool
     return kStatusOfClosedPipe;

@@ -23,6 +23,17 @@ constexpr std::size_t kLargestFile = 16 << 20;
   Fail("cannot write standard output", errno);
 }
 
+std::string ReadAll(std::FILE* file, const std::string& what) {
+  std::string text;
+  std::vector<char> buffer(1 << 16);
+  while (const std::size_t size = std::fread(buffer.data(), 1, buffer.size(), file)) {
+    text.append(buffer.data(), size);
+    if (text.size() > kLargestFile) throw StreamError("cannot read " + what + ": larger than 16 MiB");
+  }
+  if (std::ferror(file) != 0) Fail("cannot read " + what, errno);
+  return text;
+}
+
 }  // namespace
 
 std::string ReadFile(const std::string& path) {
@@ -34,15 +45,10 @@ std::string ReadFile(const std::string& path) {
   }
   const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"), std::fclose);
   if (file == nullptr) Fail("cannot open " + path, errno);
-  std::string text;
-  std::vector<char> buffer(1 << 16);
-  while (const std::size_t size = std::fread(buffer.data(), 1, buffer.size(), file.get())) {
-    text.append(buffer.data(), size);
-    if (text.size() > kLargestFile) throw StreamError("cannot read " + path + ": larger than 16 MiB");
-  }
-  if (std::ferror(file.get()) != 0) Fail("cannot read " + path, errno);
-  return text;
+  return ReadAll(file.get(), path);
 }
+
+std::string ReadStandardInput() { return ReadAll(stdin, "standard input"); }
 
 std::optional<std::uint64_t> BytesLeft(int descriptor) {
   struct stat status = {};

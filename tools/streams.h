@@ -26,6 +26,9 @@ class ToldTrouble : public std::exception {};
 // (devices, folders, sockets) too.
 std::string ReadFile(const std::string& path);
 
+// All of standard input, whatever it is. Throws as ReadFile.
+std::string ReadStandardInput();
+
 // How many bytes are left to read from an open regular file; none for other inputs, where nobody can know.
 std::optional<std::uint64_t> BytesLeft(int descriptor);
 
