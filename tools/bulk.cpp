@@ -12,7 +12,6 @@
 #include "tools/ordered_pipeline.h"
 #include "tools/progress.h"
 #include "tools/streams.h"
-#include "tools/text_names.h"
 
 namespace kavrix::tools {
 namespace {
@@ -29,7 +28,8 @@ struct Batch {
 constexpr std::size_t kMostNames = 64;
 
 bool ShowsProgress(const BulkOptions& options) {
-  const bool types_names = options.names.empty() && isatty(STDIN_FILENO) != 0;
+  const bool reads_input = options.names.empty() && options.input.value_or("-") == "-";
+  const bool types_names = reads_input && isatty(STDIN_FILENO) != 0;
   return isatty(STDERR_FILENO) != 0 && isatty(STDOUT_FILENO) == 0 && !types_names;
 }
 
@@ -51,6 +51,18 @@ void AddJobs(Command& command, BulkOptions& options) {
 void AddBulkOptions(Command& command, BulkOptions& options) {
   AddJobs(command, options);
   command.Flag("--unbuffered", options.unbuffered, "Write each result as soon as it is ready");
+}
+
+void AddInputOption(Command& command, BulkOptions& options, const std::string& what) {
+  command.Text("--input", options.input,
+               "File to read " + what + " from, one a line, instead of standard input (\"-\")");
+}
+
+TextNames InputNames(const BulkOptions& options) {
+  if (!options.names.empty()) throw UsageError("--input FILE takes the place of arguments; both are given");
+  TextNames::Options text_options;
+  text_options.null_delimited = options.null_delimited;
+  return TextNames({options.input.value_or("-")}, text_options);
 }
 
 std::size_t WorkInBulk(NameSource& source, const BulkOptions& options, const NameWork& work) {
@@ -98,13 +110,11 @@ std::size_t WorkInBulk(NameSource& source, const BulkOptions& options, const Nam
 }
 
 std::size_t WorkInBulk(const BulkOptions& options, const NameWork& work) {
-  if (!options.names.empty()) {
+  if (!options.names.empty() && !options.input) {
     GivenNames names(options.names);
     return WorkInBulk(names, options, work);
   }
-  TextNames::Options text_options;
-  text_options.null_delimited = options.null_delimited;
-  TextNames names({"-"}, text_options);
+  TextNames names = InputNames(options);
   const std::size_t failed = WorkInBulk(names, options, work);
   if (names.HadTrouble()) throw ToldTrouble();
   return failed;

@@ -30,15 +30,14 @@ std::string ToLines(const std::string& input, std::size_t number,
     const std::string hint =
         problem.suggestion ? fmt::format("; did you mean \"{}\"?", Printable(*problem.suggestion)) : "";
     lines +=
-        fmt::format("{}:{}:{}: {}: {}{} [{}]\n", input, number, byte, inspect::SeverityName(problem.severity),
-                    Printable(problem.message), hint, problem.code);
+        fmt::format("{}:{}:{}: {}: {}{} [{}]\n", Printable(input), number, byte,
+                    inspect::SeverityName(problem.severity), Printable(problem.message), hint, problem.code);
   }
   return lines;
 }
 
 int Run(const CheckOptions& options) {
   options.names.Apply();
-  const std::string input = options.names.bulk.names.empty() ? "-" : "argument";
   Hints hints(options.names);
   const auto check = [&](const InputName& given) -> NameResult {
     const std::string& name = given.name;
@@ -49,9 +48,9 @@ int Run(const CheckOptions& options) {
     };
     const bool fails = std::any_of(problems.begin(), problems.end(), is_error);
     const bool as_json = options.format == "json";
-    return {
-        as_json ? inspect::ToJsonLine(name, given.number, problems) : ToLines(input, given.number, problems),
-        true, fails ? hints.For(name) : ""};
+    return {as_json ? inspect::ToJsonLine(name, given.number, problems)
+                    : ToLines(given.file, given.number, problems),
+            true, fails ? hints.For(name) : ""};
   };
   return WorkInBulk(options.names.bulk, check) == 0 ? 0 : 1;
 }
@@ -65,9 +64,10 @@ CommandDescription CheckCommand() {
     command.Choice("--format", options->format, {"text", "json"},
                    "Output format: text, one problem a line, or json, one name with problems a line");
     command.Footer(
-        "A problem is INPUT:NUMBER:BYTE: severity: message [code]. NUMBER is the name's, from 1, and BYTE "
-        "its\n"
-        "first byte, from 0; ? where JsonCpp had to read the payload and the place is not known.\n"
+        "A problem is INPUT:NUMBER:BYTE: severity: message [code]. INPUT is the file, \"-\" for standard "
+        "input,\n"
+        "or \"argument\"; NUMBER the name's, from 1; BYTE its first byte, from 0, ? where JsonCpp had to\n"
+        "read the payload and the place is not known.\n"
         "Exit status: 0 no problem; 1 a name has problems; 2 usage, input or output error.");
     return [options] { return Run(*options); };
   };

@@ -181,6 +181,7 @@ int Run(const CompareOptions& options) {
   if (configs == 2) return CompareConfigurations(options);
   if (names != 2) throw UsageError("expected two names, or --config twice, or --decoded with two files");
   if (options.summary) throw UsageError("--summary is for --config twice or --decoded");
+  if (options.names.bulk.input) throw UsageError("--input is for --config twice");
   return CompareTwoNames(options);
 }
 
@@ -203,9 +204,8 @@ CommandDescription CompareCommand() {
     command.Footer(
         "Shows what differs between two names, between the same names under two configurations (then they "
         "may\n"
-        "come from standard input), or between two files. Log records are not compared, and bytes that are "
-        "not\n"
-        "UTF-8 are alike in files. --summary prints JSON in either format.\n"
+        "come from --input or standard input), or between two files. Log records are not compared, and\n"
+        "bytes that are not UTF-8 are alike in files. --summary prints JSON in either format.\n"
         "Exit status: 0 nothing differs; 1 something does; 2 usage, input or output error.");
     return [options] { return Run(*options); };
   };

@@ -10,23 +10,21 @@
 #include "tools/hints.h"
 #include "tools/name_options.h"
 #include "tools/streams.h"
-#include "tools/text_names.h"
 
 namespace kavrix::tools {
 namespace {
 
 std::string OnlyName(const BulkOptions& options) {
   std::vector<std::string> names = options.names;
-  if (names.empty()) {
-    TextNames::Options text_options;
-    text_options.null_delimited = options.null_delimited;
-    TextNames input({"-"}, text_options);
+  if (names.empty() || options.input) {
+    TextNames input = InputNames(options);
     for (std::vector<InputName> next; names.size() < 2 && input.Take(1, next); next.clear()) {
       names.push_back(next[0].name);
     }
     if (input.HadTrouble()) throw ToldTrouble();
   }
-  if (names.size() != 1) throw UsageError("expected one name, as an argument or on standard input");
+  if (names.size() != 1)
+    throw UsageError("expected one name, as an argument, in the file or on standard input");
   return names[0];
 }
 

@@ -78,6 +78,7 @@ CommandDescription EncodeCommand() {
                       "{\"kind\": ..., \"fields\": ...} from standard input");
     command.Text("--kind", options->kind,
                  "The kind of all bubbles; each line of input is then only its fields");
+    AddInputOption(command, options->bulk, "lines");
     command.Text("--prefix", options->prefix, "Prefix of the names instead of kavrix://resource/");
     command.Flag("--null", options->null_delimited, "End names in NUL, not newline");
     AddBulkOptions(command, options->bulk);

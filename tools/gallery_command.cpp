@@ -172,12 +172,12 @@ int Run(const NameOptions& options) {
   const inspect::TransformSetup setup = options.Apply();
   Gallery gallery;
   std::size_t failed = 0;
-  const bool is_any_given = !options.bulk.names.empty() || isatty(STDIN_FILENO) == 0;
+  const bool is_any_given = !options.bulk.names.empty() || options.bulk.input || isatty(STDIN_FILENO) == 0;
   if (is_any_given) failed = AddNames(options, setup, gallery);
-  const bool has_names = !gallery.IsEmpty();
-  if (!has_names) AddSamples(setup, gallery);
+  const bool has_samples = gallery.IsEmpty() && !options.bulk.input;
+  if (has_samples) AddSamples(setup, gallery);
   Output output(false);
-  output.Write(gallery.Page(has_names ? "Bubbles" : "Samples"));
+  output.Write(gallery.Page(has_samples ? "Samples" : "Bubbles"));
   output.Flush();
   if (gallery.left_out() != 0) {
     WriteErrorLine("the page has the first " + std::to_string(kMostNames) + " names; " +
@@ -198,9 +198,10 @@ CommandDescription GalleryCommand() {
         "Prints one HTML page that needs nothing else: no script, nothing fetched. Each name is drawn by day "
         "and\n"
         "by night, with its problems and its members. The pictures are schematic.\n"
-        "Without names (no arguments, and standard input empty or a terminal), the page has samples of all "
-        "kinds\n"
-        "and of marker names. A page has at most 1000 names; it is held in memory until the last is read.\n"
+        "Without names (no arguments, no --input, and standard input empty or a terminal), the page has\n"
+        "samples of all kinds and of marker names. A page has at most 1000 names; it is held in memory "
+        "until\n"
+        "the last is read.\n"
         "Exit status: 0 every name decodes; 1 a name fails or is left out; 2 usage, input or output error.");
     return [options] { return Run(*options); };
   };

@@ -20,7 +20,7 @@ bool IsFile(const std::string& name) {
 std::string Hints::For(const std::string& name) {
   if (options_.bulk.names.empty()) return "";
   if (IsFile(name)) {
-    return "\"" + name + "\" is a file; names are read from one with \"< " + name + "\"";
+    return "\"" + name + "\" is a file; names are read from one with \"--input " + name + "\"";
   }
   if (!options_.marker && inspect::EndsWith(name, kMarkerNameTail) && !told_of_marker_.exchange(true)) {
     return "names that end in \".marker\" are marker names, which need --marker";

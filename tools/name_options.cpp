@@ -5,7 +5,7 @@
 namespace kavrix::tools {
 
 bool NameOptions::IsAnyGivenBesidesNames() const {
-  return prefix || context_name || marker || bulk.null_delimited || bulk.jobs != 1;
+  return prefix || context_name || marker || bulk.input || bulk.null_delimited || bulk.jobs != 1;
 }
 
 inspect::TransformSetup NameOptions::Apply() const {
@@ -21,8 +21,9 @@ void AddNames(Command& command, NameOptions& options, const std::string& help) {
   command.Flag("--marker", options.marker, "The names are marker names, not bubble names");
 }
 
-void AddNull(Command& command, NameOptions& options) {
-  command.Flag("--null", options.bulk.null_delimited, "Names on standard input end in NUL, not newline");
+void AddInput(Command& command, NameOptions& options) {
+  AddInputOption(command, options.bulk, "names");
+  command.Flag("--null", options.bulk.null_delimited, "Names in the input end in NUL, not newline");
 }
 
 void AddContextName(Command& command, NameOptions& options) {
@@ -45,12 +46,12 @@ void AddNameOptionsBesidesConfig(Command& command, NameOptions& options, const s
   AddNames(command, options, help);
   AddContextName(command, options);
   AddBulkOptions(command, options.bulk);
-  AddNull(command, options);
+  AddInput(command, options);
 }
 
 void AddDrawnNameOptions(Command& command, NameOptions& options, const std::string& help) {
   AddNames(command, options, help);
-  AddNull(command, options);
+  AddInput(command, options);
   AddConfig(command, options);
 }
 

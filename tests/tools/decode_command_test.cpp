@@ -241,9 +241,9 @@ TEST(DecodeCommandTest, NameOnTheCommandLineThatWasMeantAsSomethingElseGetsAHint
   EXPECT_EQ(marker.errors,
             "kavrix-resource: name 1: names that end in \".marker\" are marker names, which need --marker\n");
   const ToolResult file = RunTool({"decode", KAVRIX_SOURCE_DIR "/README.md"});
-  EXPECT_EQ(file.errors,
-            "kavrix-resource: name 1: \"" KAVRIX_SOURCE_DIR
-            "/README.md\" is a file; names are read from one with \"< " KAVRIX_SOURCE_DIR "/README.md\"\n");
+  EXPECT_EQ(file.errors, "kavrix-resource: name 1: \"" KAVRIX_SOURCE_DIR
+                         "/README.md\" is a file; names are read from one with \"--input " KAVRIX_SOURCE_DIR
+                         "/README.md\"\n");
   const ToolResult longer = RunTool({"decode", "x.turnBubble", "y.turnBubble"});
   EXPECT_EQ(longer.errors,
             "kavrix-resource: name 1: the name is shorter than the prefix \"kavrix://resource/\"; --prefix "

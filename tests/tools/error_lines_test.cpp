@@ -50,6 +50,8 @@ TEST(ErrorLinesTest, TextOfArgumentsIsEscaped) {
       {"decode", "--format", kEvil, "x"},
       {"decode", "--jobs", kEvil, "x"},
       {"decode", "--config", "/nonexistent" + kEvil, "x"},
+      {"decode", "--input", "/nonexistent" + kEvil},
+      {"config", "--check", "/nonexistent" + kEvil},
       {"encode", "--kind", kEvil, "{}"},
       {"encode", "--kind", "turnBubble", "{\"" + kEvil.substr(0, 5) + "\":1}"},
       {"kinds", kEvil},
@@ -101,10 +103,20 @@ TEST(ErrorLinesTest, PathAndTextOfConfigurationFilesAreEscaped) {
     EXPECT_EQ(result.status, 2) << text;
     EXPECT_THAT(result.errors, HasSubstr(kHarmless)) << text;
     ExpectOneHarmlessLine(result);
+    const ToolResult check = RunTool({"config", "--check", file.path()});
+    EXPECT_EQ(check.status, 1) << text;
+    EXPECT_EQ(check.errors, result.errors) << text;
   }
   const EvilFile file("{\"multi_light_type\":{\n\"a\":1}}");
   EXPECT_THAT(RunTool({"decode", "--config", file.path(), "x"}).errors,
               HasSubstr(R"(multi_light_type: expected a 32-bit integer, found {\n"a":1})"));
+}
+
+TEST(ErrorLinesTest, PathOfTheInputIsEscapedInProblems) {
+  const EvilFile file("x\n");
+  const std::string path = "/tmp/kavrix_test_" + std::to_string(getpid()) + kHarmless;
+  EXPECT_EQ(RunTool({"check", "--input", file.path()}).output,
+            path + ":1:0: error: no marker of a kind occurs in the name [no-marker]\n");
 }
 
 TEST(ErrorLinesTest, PathThatIsNoFileIsEscaped) {
