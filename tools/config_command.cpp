@@ -51,7 +51,9 @@ CommandDescription ConfigCommand() {
     command.Flag("--default", options->prints_default, "Print the built-in configuration");
     command.Text("--check", options->checked_path,
                  "Configuration file to check, \"-\" for standard input; silent when it can be used");
-    command.Footer("Exit status: 0 success; 1 the configuration is wrong; 2 usage, input or output error.");
+    command.Footer(
+        "\"kavrix-resource schema config\" describes the file.\n"
+        "Exit status: 0 success; 1 the configuration is wrong; 2 usage, input or output error.");
     return [options] { return Run(*options); };
   };
   return {"config", "Print the built-in configuration, or check a configuration file", list_options};

@@ -15,6 +15,7 @@
 #include "tools/gallery_command.h"
 #include "tools/icons_command.h"
 #include "tools/kinds_command.h"
+#include "tools/schema_command.h"
 #include "tools/shrink_command.h"
 #include "tools/streams.h"
 #include "tools/survey_command.h"
@@ -26,7 +27,7 @@ int main(int argc, char** argv) {
   try {
     return RunCommandLine({DecodeCommand(), ExplainCommand(), CheckCommand(), CompareCommand(), DrawCommand(),
                            GalleryCommand(), ExtractCommand(), SurveyCommand(), ShrinkCommand(),
-                           EncodeCommand(), KindsCommand(), IconsCommand(), ConfigCommand()},
+                           EncodeCommand(), KindsCommand(), IconsCommand(), ConfigCommand(), SchemaCommand()},
                           argc, argv);
   } catch (const ReaderGone&) {
     constexpr int kStatusOfClosedPipe = 141;  // as if the signal had ended the tool
