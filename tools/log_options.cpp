@@ -23,7 +23,6 @@ void AddLogOptions(Command& command, LogOptions& options, const std::string& hel
   command.Arguments("FILE", options.files, help);
   command.Flag("--json", options.json, json_help);
   command.Text("--prefix", options.prefix, "Prefix of the names instead of kavrix://resource/");
-  AddBulkOptions(command, options.bulk);
 }
 
 }  // namespace kavrix::tools

@@ -139,6 +139,7 @@ CommandDescription SurveyCommand() {
     AddLogOptions(command, options->logs,
                   "Files with names one a line, with logs, or with reports; without any, standard input",
                   "With --extract: every line of the logs is JSON");
+    AddJobs(command, options->logs.bulk);
     command.Flag("--extract", options->extract, "The files are logs; survey the names that extract finds");
     command.Flag("--merge", options->merge, "The files hold reports, one a line; make one of them");
     command.Flag("--no-examples", options->no_examples, "Leave out the examples: names hold destinations");
