@@ -172,8 +172,4 @@ std::vector<Problem> CheckMarkerName(const std::string& resource_name) {
   return ProblemsOf(resource_name, EntryPoint::kMarker);
 }
 
-std::vector<Problem> ProblemsOf(const std::string& resource_name, EntryPoint entry_point) {
-  return FindProblems(NameReading(resource_name, entry_point));
-}
-
 }  // namespace kavrix::inspect

@@ -6,7 +6,6 @@
 
 #include "inspect/explanation.h"
 #include "inspect/transform_setup.h"
-#include "map_resource/bubble_kinds.h"
 
 namespace kavrix::inspect {
 
@@ -23,7 +22,6 @@ Explanation ExplainMarkerName(const std::string& resource_name, const TransformS
 // Only the problems, for a tenth of the time.
 std::vector<Problem> CheckBubbleName(const std::string& resource_name);
 std::vector<Problem> CheckMarkerName(const std::string& resource_name);
-std::vector<Problem> ProblemsOf(const std::string& resource_name, EntryPoint entry_point);
 
 }  // namespace kavrix::inspect
 

@@ -226,4 +226,8 @@ class Finder {
 
 std::vector<Problem> FindProblems(const NameReading& reading) { return Finder(reading).Find(); }
 
+std::vector<Problem> ProblemsOf(const std::string& resource_name, EntryPoint entry_point) {
+  return FindProblems(NameReading(resource_name, entry_point));
+}
+
 }  // namespace kavrix::inspect

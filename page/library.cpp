@@ -12,6 +12,7 @@
 #include "inspect/explained_json.h"
 #include "inspect/json_writer.h"
 #include "inspect/kind_json.h"
+#include "inspect/problems.h"
 #include "util/strict_json.h"
 
 namespace kavrix::page {

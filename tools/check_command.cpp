@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "inspect/explain.h"
 #include "inspect/explained_json.h"
+#include "inspect/problems.h"
 #include "tools/hints.h"
 #include "tools/name_options.h"
 #include "tools/text_output.h"

@@ -5,7 +5,7 @@
 
 #include "inspect/decoder.h"
 #include "inspect/drawn_name.h"
-#include "inspect/explain.h"
+#include "inspect/problems.h"
 #include "tools/error_line.h"
 #include "tools/hints.h"
 #include "tools/name_options.h"

@@ -60,6 +60,7 @@ CommandDescription ExtractCommand() {
     AddLogOptions(command, options->logs,
                   "Files with any text, \"-\" for standard input; without any, standard input",
                   "Every line is JSON; names are sought in its texts, decoded");
+    AddBulkOptions(command, options->logs.bulk);
     command.Choice("--format", options->format, {"text", "json"},
                    "Output format: text, one name a line, or json, with file, line and byte");
     command.Flag("--unique", options->unique, "Print each name once, where it is first; keeps all in memory");

@@ -13,6 +13,7 @@
 #include "inspect/decoder.h"
 #include "inspect/drawn_name.h"
 #include "inspect/explain.h"
+#include "inspect/problems.h"
 #include "map_resource/encode_error.h"
 #include "tools/error_line.h"
 #include "tools/gallery_page.h"

@@ -6,8 +6,8 @@
 
 #include "inspect/decoded_json.h"
 #include "inspect/decoder.h"
-#include "inspect/explain.h"
 #include "inspect/json_writer.h"
+#include "inspect/problems.h"
 #include "inspect/shrink.h"
 #include "tools/format_option.h"
 #include "tools/name_options.h"

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "inspect/explain.h"
+#include "inspect/problems.h"
 #include "tests/support/sample_names.h"
 
 namespace kavrix::test {
