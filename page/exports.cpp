@@ -1,6 +1,6 @@
-// What page.js calls. Names and texts come as pointer and length, because they may hold any bytes. A function
-// returns false when it failed; page_result is then a JSON object {"message": ..., "field": ...}, where the
-// field is the one that the encoder refused, or empty.
+// What library.js calls. Names and texts come as pointer and length, because they may hold any bytes. A
+// function returns false when it failed; page_result is then a JSON object {"message": ..., "field": ...},
+// where the field is the one that the encoder refused, or empty.
 #include <emscripten.h>
 
 #include <exception>
@@ -68,6 +68,10 @@ EMSCRIPTEN_KEEPALIVE bool page_set_config(const char* text, std::size_t size) {
 
 EMSCRIPTEN_KEEPALIVE bool page_decode(const char* name, std::size_t size, ReadAs as) {
   return ResultOf([&](Library& library) { return library.Decode({name, size}, as); });
+}
+
+EMSCRIPTEN_KEEPALIVE bool page_has_failed(const char* name, std::size_t size, ReadAs as) {
+  return ResultOf([&](Library& library) { return library.HasFailed({name, size}, as) ? "true" : "false"; });
 }
 
 EMSCRIPTEN_KEEPALIVE bool page_explain(const char* name, std::size_t size, ReadAs as) {

@@ -13,6 +13,7 @@
 #include "inspect/json_writer.h"
 #include "inspect/kind_json.h"
 #include "inspect/problems.h"
+#include "inspect/text_search.h"
 #include "util/strict_json.h"
 
 namespace kavrix::page {
@@ -23,13 +24,9 @@ using inspect::JsonWriter;
 using inspect::Problem;
 using inspect::Severity;
 
-bool EndsIn(std::string_view text, std::string_view tail) {
-  return text.size() >= tail.size() && text.substr(text.size() - tail.size()) == tail;
-}
-
 EntryPoint EntryOf(const std::string& name, ReadAs as) {
   if (as != ReadAs::kItsMarker) return as == ReadAs::kMarkerName ? EntryPoint::kMarker : EntryPoint::kBubble;
-  const bool is_marker_name = !FindBubbleKind(name) && EndsIn(name, kMarkerNameTail);
+  const bool is_marker_name = !FindBubbleKind(name) && inspect::EndsWith(name, kMarkerNameTail);
   return is_marker_name ? EntryPoint::kMarker : EntryPoint::kBubble;
 }
 
@@ -74,6 +71,10 @@ inspect::Explanation Library::ExplanationOf(const std::string& name, EntryPoint 
 
 std::string Library::Decode(const std::string& name, ReadAs as) {
   return inspect::ToJsonLine(DecoderOf(EntryOf(name, as)).Decode(name));
+}
+
+bool Library::HasFailed(const std::string& name, ReadAs as) {
+  return DecoderOf(EntryOf(name, as)).Decode(name).failed;
 }
 
 std::string Library::Explain(const std::string& name, ReadAs as) const {

@@ -33,6 +33,9 @@ class Library {
   std::string Decode(const std::string& name, ReadAs as);
   std::string Explain(const std::string& name, ReadAs as) const;
 
+  // Whether the decode fails, as `survey` and the list count it.
+  bool HasFailed(const std::string& name, ReadAs as);
+
   // The picture, as `draw` prints it.
   std::string Draw(const std::string& name, ReadAs as, Mode mode);
 

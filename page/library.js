@@ -61,6 +61,10 @@ class Library {
   decode(name, as = 'auto') {
     return this.text('decode', name, READ_AS[as]);
   }
+  // Whether the decode fails.
+  hasFailed(name, as = 'auto') {
+    return this.json('has_failed', name, READ_AS[as]);
+  }
   explain(name, as = 'auto') {
     return this.text('explain', name, READ_AS[as]);
   }

@@ -80,7 +80,7 @@ class Page {
 
   showResult({ records, exception }, { problems }) {
     const kind = this.library.kind(this.bytes, this.as);
-    const fails = problems.some(({ severity }) => severity === 'error') || exception !== null;
+    const fails = this.library.hasFailed(this.bytes, this.as);
     const what = kind === 'marker' ? 'A marker name' : kind === null ? 'No kind of bubble' : kind;
     const how = exception !== null ? `: the call throws ${exception}` : fails ? ': it fails' : ': it decodes';
     const told = `${what}${how}, ${problems.length === 0 ? 'no problems' : counted(problems.length, 'problem')}.`;

@@ -33,6 +33,17 @@ def same_as_tool(checks, browser):
                     checks.same(f"{what} {name!r}, {command}", without_exception(line), without_exception(expected))
 
 
+def same_failures(checks, browser):
+    """The library tells the page which decodes fail, as it tells `survey`."""
+    names = [name for name, is_marker in golden_names() + broken_names(400) if not is_marker]
+    survey = json.loads(run_tool("survey", "--format", "json", given=b"".join(name + b"\n" for name in names)).stdout)
+    failed = browser.run("return arguments[0].map((name) => bubbles.library.hasFailed(Uint8Array.from(name), 'bubble'))",
+                         [list(name) for name in names])
+    expected = sum(kind["failed"] for kind in survey["kinds"].values())
+    checks.same("names that fail", sum(failed), expected)
+    checks.true("names that fail and names that do not", 0 < sum(failed) < len(failed), f"{sum(failed)} of {len(failed)}")
+
+
 def same_pictures(checks, browser):
     for name, is_marker in sample_names():
         native = run_tool("draw", *(["--marker"] if is_marker else []), given=name).stdout.decode().rstrip("\n")
