@@ -1,6 +1,7 @@
 // The table of members, and the problems.
 
 const MOST_ROWS = 600;
+const MOST_PROBLEMS = 50;
 
 function shownValue(value) {
   const isWord = Number.isInteger(value) && value > 0xffff;
@@ -50,9 +51,9 @@ function showMembers(body, explained, view) {
   makeRoving(body, shown);
 }
 
-// The name with a suggestion in place of the problem's bytes; null where that does not mend it.
+// The name with a suggestion in place of the problem's bytes; null where that does not mend it. Explains the name
+// anew, which is too slow to do for every problem at every key.
 function mended(library, bytes, as, explained, problem) {
-  if (!problem.suggestion || !problem.bytes) return null;
   const [begin, end] = problem.bytes;
   const name = joinBytes([bytes.subarray(0, begin), encoder.encode(problem.suggestion), bytes.subarray(end)]);
   const { kind, problems } = JSON.parse(library.explain(name, as));

@@ -84,29 +84,40 @@ class Page {
     const what = kind === 'marker' ? 'A marker name' : kind === null ? 'No kind of bubble' : kind;
     const how = exception !== null ? `: the call throws ${exception}` : fails ? ': it fails' : ': it decodes';
     const told = `${what}${how}, ${problems.length === 0 ? 'no problems' : counted(problems.length, 'problem')}.`;
-    byId('told').textContent = told;
+    this.tell(told);
     if (kind !== null) byId('kind').value = kind;
-    tellAloud(told);
     byId('records').replaceChildren(...records.map(({ level, tag, message }) =>
       make('li', {}, make('span', { class: 'muted' }, `level ${level}, ${tag} `), make('code', {}, message))));
   }
 
+  tell(text) {
+    byId('told').textContent = text;
+    tellAloud(text);
+  }
+
   showProblems(explained) {
-    byId('problems').replaceChildren(...explained.problems.map((problem) =>
-      problemItem(problem, this.remedyFor(problem, explained))));
+    const shown = explained.problems.slice(0, MOST_PROBLEMS);
+    const left = explained.problems.length - shown.length;
+    byId('problems').replaceChildren(...shown.map((problem) => problemItem(problem, this.remedyFor(problem, explained))));
+    if (left > 0) byId('problems').append(make('li', {}, `and ${left.toLocaleString('en')} more`));
   }
 
   remedyFor(problem, explained) {
     if (problem.suggestion === '--marker') {
       return { button: makeButton('Read it as a marker name', () => this.readAs('marker')) };
     }
-    const name = mended(this.library, this.bytes, this.as, explained, problem);
-    const button = name && makeButton('Use it', () => this.mend(name));
-    if (button) button.setAttribute('aria-label', `Use ${problem.suggestion}`);
+    if (!problem.suggestion || !problem.bytes) return { isShown: true };
+    const button = makeButton('Use it', () => this.mend(problem, explained));
+    button.setAttribute('aria-label', `Use ${problem.suggestion}`);
     return { isShown: true, button };
   }
 
-  mend(name) {
+  mend(problem, explained) {
+    const name = mended(this.library, this.bytes, this.as, explained, problem);
+    if (name === null) {
+      this.tell(`${problem.suggestion} in its place does not mend the name.`);
+      return;
+    }
     this.take(name, 'problem');
     byId('name').focus(); // the button is gone
   }

@@ -145,6 +145,30 @@ def broken_name(checks, browser):
     checks.true("told of an exception", "throws" in browser.text("told"), browser.text("told"))
 
 
+def many_problems(checks, browser):
+    """At a key the name is explained once, whatever is wrong with it."""
+    browser.open()
+    browser.run("const explain = bubbles.library.explain; window.explained = 0;"
+                "bubbles.library.explain = function(...values) { ++window.explained; return explain.apply(this, values) }")
+    keys = ",".join(f'"contnt":"{number}"' for number in range(80))
+    browser.type_into("name", f'kavrix://resource/{{{keys}}}.trafficBubble')
+    checks.same("times that a name is explained", browser.run("return window.explained"), 1)
+    problems = browser.run("return Array.from(document.querySelectorAll('#problems li'), (item) => item.textContent)")
+    checks.same("problems that are shown", len(problems), 51)
+    count = browser.run("return JSON.parse(bubbles.library.explain(bubbles.page.bytes)).problems.length")
+    checks.same("problems that are not", problems[-1], f"and {count - 50} more")
+    checks.true("problems that are told of", f", {count} problems." in browser.text("told"), browser.text("told"))
+
+
+def useless_suggestion(checks, browser):
+    browser.open()
+    name = 'kavrix://resource/{"content":"a","contnt":"b","mode":0}.trafficBubble'
+    browser.type_into("name", name)
+    browser.get("problems").find_element("tag name", "button").click()
+    checks.same("told of what does not mend", browser.text("told"), "content in its place does not mend the name.")
+    checks.same("name that is not mended", browser.name(), name.encode())
+
+
 def choices(checks, browser):
     """The controls that choose how a name is shown."""
     browser.open()
