@@ -28,17 +28,21 @@ function debounced(milliseconds, work) {
   };
 }
 
-// Makes `items` one stop of the Tab key, between which the arrow keys move.
+const isShown = (element) => element.getClientRects().length > 0;
+
+// Makes `items` one stop of the Tab key, between which the arrow keys move; those that are hidden are no part of it. To
+// be called again when items are hidden or shown.
 function makeRoving(container, items) {
-  items.forEach((item, i) => item.setAttribute('tabindex', i === 0 ? '0' : '-1'));
+  const makeStop = (stop) => items.forEach((item) => item.setAttribute('tabindex', item === stop ? '0' : '-1'));
   const steps = { ArrowDown: 1, ArrowRight: 1, ArrowUp: -1, ArrowLeft: -1, Home: -Infinity, End: Infinity };
+  makeStop(items.find(isShown));
   container.onkeydown = (event) => {
-    const at = items.indexOf(event.target);
-    if (at < 0 || !(event.key in steps)) return;
+    const shown = items.filter(isShown);
+    const at = shown.indexOf(event.target);
+    if (at < 0 || !Object.hasOwn(steps, event.key)) return;
     event.preventDefault();
-    const next = items[Math.max(0, Math.min(items.length - 1, at + steps[event.key]))];
-    items[at].setAttribute('tabindex', '-1');
-    next.setAttribute('tabindex', '0');
+    const next = shown[Math.max(0, Math.min(shown.length - 1, at + steps[event.key]))];
+    makeStop(next);
     next.focus();
   };
 }

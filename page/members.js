@@ -51,6 +51,11 @@ function showMembers(body, explained, view) {
   makeRoving(body, shown);
 }
 
+function hideDefaults(body, areHidden) {
+  body.classList.toggle('hides-defaults', areHidden);
+  makeRoving(body, Array.from(body.querySelectorAll('[tabindex]')));
+}
+
 // The name with a suggestion in place of the problem's bytes; null where that does not mend it. Explains the name
 // anew, which is too slow to do for every problem at every key.
 function mended(library, bytes, as, explained, problem) {

@@ -32,8 +32,7 @@ class Page {
     byId('kind').addEventListener('change', () => this.takeSample(0));
     byId('next-sample').addEventListener('click', () => this.takeSample(this.sample + 1));
     byId('as').addEventListener('change', () => this.show('as'));
-    byId('hide-defaults').addEventListener('change', (event) =>
-      byId('members').classList.toggle('hides-defaults', event.target.checked));
+    byId('hide-defaults').addEventListener('change', (event) => hideDefaults(byId('members'), event.target.checked));
     document.getElementsByName('mode').forEach((radio) => radio.addEventListener('change', () => this.draw()));
     byId('copy').addEventListener('click', () => this.copyLink());
     byId('picture').addEventListener('pointerover', (event) => this.pointAt(event.target));

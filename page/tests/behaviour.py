@@ -122,6 +122,27 @@ def edit(checks, browser):
     checks.true("edited list, kept newline", b'"speed":90' in browser.name() and b"a\\u000ab" in browser.name(), browser.name())
 
 
+def hidden_rows(checks, browser):
+    """The keyboard goes from row to row past those that are hidden."""
+    browser.open()
+    browser.type_into("name", 'kavrix://resource/{"content":"Jam","mode":0}.trafficBubble')
+    browser.get("hide-defaults").click()
+    for when in ("hidden", "hidden before the name came"):
+        shown = browser.run("return Array.from(document.querySelectorAll('#members tr')).filter((row) => row.checkVisibility())")
+        stops = browser.driver.find_elements("css selector", "#members [tabindex='0']")
+        first = browser.driver.find_element("css selector", "#members tr")
+        checks.true(f"first row, {when}", len(shown) > 2 and first != shown[0], [row.text for row in shown])
+        checks.same(f"rows that the Tab key stops at, {when}", stops, shown[:1])
+        browser.run("arguments[0].focus()", shown[0])
+        for row in [*shown[1:], shown[-1]]:
+            browser.driver.switch_to.active_element.send_keys(Keys.ARROW_DOWN)
+            checks.same(f"row after an arrow key, {when}", browser.driver.switch_to.active_element, row)
+        browser.type_into("name", 'kavrix://resource/{"content":"Jammed","mode":0}.trafficBubble')
+    browser.get("hide-defaults").click()
+    first = browser.driver.find_element("css selector", "#members tr")
+    checks.same("stop when rows are shown again", browser.driver.find_elements("css selector", "#members [tabindex='0']"), [first])
+
+
 def broken_name(checks, browser):
     browser.open()
     browser.type_into("name", 'kavrix://resource/{"contnt":"Jam","mode":0,"scene":}.traficBubble')
