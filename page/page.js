@@ -51,7 +51,7 @@ class Page {
     const values = new Map(location.hash.slice(1).split('&').map((pair) => [pair.split('=', 1)[0], pair]));
     if (!values.has('name')) return false;
     const as = (values.get('as') || '').slice('as='.length);
-    byId('as').value = as in READ_AS ? as : 'auto';
+    byId('as').value = Object.hasOwn(READ_AS, as) ? as : 'auto';
     this.take(percentDecode(values.get('name').slice('name='.length)), 'link');
     return true;
   }

@@ -60,9 +60,10 @@ def link(checks, browser):
     browser.run("location.hash = '#name=kavrix://resource/前%FF_0@1.labelBubble&as=marker'")
     browser.wait("return document.getElementById('as').value === 'marker'")
     checks.same("changed link", browser.name(), "kavrix://resource/前".encode() + b"\xff_0@1.labelBubble")
-    browser.open("#name=%zz%&as=what")
-    checks.same("link with broken escapes", browser.name(), b"%zz%")
-    checks.same("reading of a link that names none", browser.get("as").get_attribute("value"), "auto")
+    for way in ("what", "constructor", "toString"):
+        browser.open(f"#name=%zz%&as={way}")
+        checks.same("link with broken escapes", browser.name(), b"%zz%")
+        checks.same(f"reading of a link that names {way}", browser.get("as").get_attribute("value"), "auto")
 
 
 def hover(checks, browser):
