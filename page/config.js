@@ -3,6 +3,10 @@
 function watchConfig(library, builtIn, onChange) {
   const box = byId('config');
   const told = byId('config-told');
+  const fail = (message) => {
+    told.className = 'error';
+    told.textContent = `Not used: ${message}`;
+  };
   const use = (bytes, source) => {
     try {
       library.setConfig(bytes);
@@ -12,17 +16,17 @@ function watchConfig(library, builtIn, onChange) {
       onChange();
     } catch (error) {
       box.setAttribute('aria-invalid', 'true');
-      told.className = 'error';
-      told.textContent = `Not used: ${error.message}`;
+      fail(error.message);
     }
   };
+  const useTyped = debounced(150, () => use(encoder.encode(box.value), 'the text below'));
   const show = (bytes, source) => {
+    useTyped.cancel();
     box.value = decoder.decode(bytes);
     use(bytes, source);
   };
-  const useTyped = debounced(150, () => use(encoder.encode(box.value), 'the text below'));
   box.addEventListener('input', useTyped);
   byId('config-reset').addEventListener('click', () => show(builtIn, 'the built-in configuration'));
-  takeFiles(byId('config-file'), box, show);
+  takeFiles(byId('config-file'), box, show, fail);
   show(builtIn, 'the built-in configuration');
 }

@@ -20,12 +20,15 @@ function counted(count, one, many) {
   return count.toLocaleString('en') + ' ' + (count === 1 ? one : many || one + 's');
 }
 
+// `cancel` of what is returned drops the work that is pending.
 function debounced(milliseconds, work) {
   let timer = 0;
-  return (...values) => {
+  const run = (...values) => {
     clearTimeout(timer);
     timer = setTimeout(() => work(...values), milliseconds);
   };
+  run.cancel = () => clearTimeout(timer);
+  return run;
 }
 
 const isShown = (element) => element.getClientRects().length > 0;
@@ -47,9 +50,18 @@ function makeRoving(container, items) {
   };
 }
 
-// Calls `take` with the bytes of a file that is chosen with `input` or dropped on `target`.
-function takeFiles(input, target, take) {
-  const read = async (file) => take(new Uint8Array(await file.arrayBuffer()), file.name);
+// Calls `take` with the bytes of a file that is chosen with `input` or dropped on `target`, or `fail` with a message.
+// Nothing comes of a file once another one, or a text in `target`, was given.
+function takeFiles(input, target, take, fail) {
+  let newest = 0;
+  const read = async (file) => {
+    const number = ++newest;
+    const bytes = await file.arrayBuffer().catch((error) => error);
+    if (number !== newest) return;
+    if (bytes instanceof Error) fail(`${file.name} cannot be read: ${bytes.message}`);
+    else take(new Uint8Array(bytes), file.name);
+  };
+  for (const given of ['input', 'paste']) target.addEventListener(given, () => ++newest);
   input.addEventListener('change', () => {
     if (input.files.length > 0) read(input.files[0]);
     input.value = '';

@@ -33,28 +33,37 @@ class NameList {
   }
 
   watch() {
-    const takeTyped = debounced(200, () => this.take(encoder.encode(this.box.value)));
-    this.box.addEventListener('input', takeTyped);
+    this.takeTyped = debounced(200, () => this.take(encoder.encode(this.box.value)));
+    this.box.addEventListener('input', this.takeTyped);
     this.box.addEventListener('paste', (event) => {
       const text = event.clipboardData.getData('text/plain');
       if (text.length <= LONGEST_IN_BOX) return;
       event.preventDefault();
       this.takeLong(encoder.encode(text), 'What was pasted');
     });
-    takeFiles(byId('log-file'), this.box, (bytes, name) => this.takeLong(bytes, name));
+    takeFiles(byId('log-file'), this.box, (bytes, name) => this.takeLong(bytes, name), (message) => this.fail(message));
     byId('log-json').addEventListener('change', () => this.take(this.bytes));
     this.more.addEventListener('click', () => this.showMore());
   }
 
   takeLong(bytes, what) {
+    this.takeTyped.cancel(); // it would end this run
     const megabytes = (bytes.length / 1e6).toFixed(1);
     this.box.value = '';
     this.box.placeholder = `${what} (${megabytes} MB) is read, and too long to be shown here.`;
     return this.take(bytes);
   }
 
+  // Ends what is running.
+  fail(message) {
+    ++this.run;
+    this.told.className = 'error';
+    this.told.textContent = message;
+  }
+
   async take(bytes) {
     const run = ++this.run; // a newer one ends this one
+    this.told.className = '';
     this.bytes = bytes;
     this.results = [];
     this.rows.replaceChildren();

@@ -237,13 +237,48 @@ def configuration(checks, browser):
     browser.wait("return document.getElementById('members').textContent.includes('0xff00ff00')")
     browser.get("config-file").send_keys(browser.address.removeprefix("file://").replace("index.html", "broken.json"))
     browser.wait("return document.getElementById('config-told').textContent.startsWith('Not used')")
-    browser.run("""const files = new DataTransfer();
-        files.items.add(new File([arguments[0]], 'dropped.json'));
-        document.getElementById('config').dispatchEvent(new DragEvent('drop', {dataTransfer: files, cancelable: true}))""",
-                text.replace("0xffd93036", "0xff0000ff"))
+    browser.run(DROP, "config", text.replace("0xffd93036", "0xff0000ff"), "dropped.json")
     browser.wait("return document.getElementById('members').textContent.includes('0xff0000ff')")
     browser.get("config-reset").click()
     checks.true("built-in configuration again", "0xffd93036" in browser.text("members"))
+
+
+DROP = """const files = new DataTransfer();
+    files.items.add(new File([arguments[1]], arguments[2]));
+    document.getElementById(arguments[0]).dispatchEvent(
+        new DragEvent('drop', {dataTransfer: files, bubbles: true, cancelable: true}));"""
+
+
+def given_at_once(checks, browser):
+    """What was given last is what is taken."""
+    browser.open()
+    log = "kavrix://resource/Home_0_x_0@3.etaBubble\n" * 3
+    browser.type_into("log", "typed")
+    browser.run(DROP, "log", log, "dropped.log")
+    browser.run_async("setTimeout(arguments[0], 400)") # longer than the page waits for more keys
+    checks.true("file that came after a key", browser.text("list-told").startswith("3 names:"), browser.text("list-told"))
+    # The first file is read slowly.
+    browser.run("""const read = File.prototype.arrayBuffer;
+        File.prototype.arrayBuffer = async function() {
+          if (this.name === 'lost') throw new Error('it is gone');
+          if (this.name === 'slow') await new Promise((resolve) => setTimeout(resolve, 300));
+          return read.call(this);
+        }""")
+    browser.run(DROP, "log", log, "slow")
+    browser.run(DROP, "log", log[:len(log) // 3], "quick")
+    browser.run_async("setTimeout(arguments[0], 600)")
+    checks.true("newer of two files", browser.text("list-told").startswith("1 name:"), browser.text("list-told"))
+    browser.run(DROP, "log", log, "slow")
+    browser.type_into("log", log[:len(log) // 3] * 2)
+    browser.run_async("setTimeout(arguments[0], 600)")
+    checks.true("text that came after a file", browser.text("list-told").startswith("2 names:"), browser.text("list-told"))
+    for box, told, before in (("log", "list-told", ""), ("config", "config-told", "Not used: ")):
+        browser.run(DROP, box, "", "lost")
+        browser.wait(f"return document.getElementById('{told}').className === 'error'")
+        checks.same(f"file that cannot be read, {box}", browser.text(told), before + "lost cannot be read: it is gone")
+    browser.type_into("log", log)
+    browser.wait("return document.getElementById('list-told').textContent.startsWith('3 names:')")
+    checks.same("told as before", browser.get("list-told").get_attribute("class"), "")
 
 
 PASTE = """const done = arguments[1];
