@@ -27,16 +27,25 @@ class Library {
     const pointers = [];
     const put = (value) => {
       if (!(value instanceof Uint8Array)) return [value];
-      const pointer = this.module._malloc(value.length + 1);
-      pointers.push(pointer);
-      this.module.HEAPU8.set(value, pointer);
-      return [pointer, value.length];
+      pointers.push(this.copied(value));
+      return [pointers[pointers.length - 1], value.length];
     };
-    const worked = this.module['_page_' + name](...values.flatMap(put));
-    pointers.forEach((pointer) => this.module._free(pointer));
-    const result = this.result();
-    if (!worked) throw new LibraryError(JSON.parse(decoder.decode(result)));
-    return result;
+    try {
+      const worked = this.module['_page_' + name](...values.flatMap(put));
+      const result = this.result();
+      if (!worked) throw new LibraryError(JSON.parse(decoder.decode(result)));
+      return result;
+    } finally {
+      pointers.forEach((pointer) => this.module._free(pointer));
+    }
+  }
+
+  // Where the library finds the bytes, until they are freed.
+  copied(bytes) {
+    const pointer = this.module._malloc(bytes.length + 1);
+    if (pointer === 0) throw new LibraryError({ message: `no memory for ${counted(bytes.length, 'byte')}`, field: '' });
+    this.module.HEAPU8.set(bytes, pointer);
+    return pointer;
   }
 
   result() {

@@ -243,6 +243,30 @@ def configuration(checks, browser):
     checks.true("built-in configuration again", "0xffd93036" in browser.text("members"))
 
 
+def no_memory(checks, browser):
+    """A call that gets no memory fails, changes nothing, and keeps nothing."""
+    browser.open()
+    told = browser.run("""const {module} = bubbles.library;
+        const [malloc, free] = [module._malloc, module._free];
+        const kept = new Set();
+        const first = module.HEAPU8.slice(0, 1024);
+        module._malloc = (size) => {
+          const pointer = size > 10 ? 0 : malloc(size);
+          if (pointer) kept.add(pointer);
+          return pointer;
+        };
+        module._free = (pointer) => (kept.delete(pointer), free(pointer));
+        let told = '';
+        try {
+          bubbles.library.encode('x', '{"content":"Jam"}');
+        } catch (error) {
+          told = error.message;
+        }
+        Object.assign(module, {_malloc: malloc, _free: free});
+        return [told, kept.size, first.every((byte, at) => byte === module.HEAPU8[at])]""")
+    checks.same("call without memory", told, ["no memory for 17 bytes", 0, True])
+
+
 DROP = """const files = new DataTransfer();
     files.items.add(new File([arguments[1]], arguments[2]));
     document.getElementById(arguments[0]).dispatchEvent(
