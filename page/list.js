@@ -7,6 +7,7 @@ const LONGEST_SHOWN = 300;
 // A text box takes seconds to lay out a text as long as this; it is taken without being shown.
 const LONGEST_IN_BOX = 20000;
 
+const megabytes = (size) => (size / 1e6).toFixed(1);
 const pause = () => new Promise((resolve) => setTimeout(resolve));
 
 // The lines of a text, in slices that end with a line.
@@ -24,6 +25,7 @@ class NameList {
     this.library = library;
     this.open = open;
     this.box = byId('log');
+    this.progress = byId('list-progress');
     this.told = byId('list-told');
     this.rows = byId('list');
     this.more = byId('list-more');
@@ -48,57 +50,83 @@ class NameList {
 
   takeLong(bytes, what) {
     this.takeTyped.cancel(); // it would end this run
-    const megabytes = (bytes.length / 1e6).toFixed(1);
     this.box.value = '';
-    this.box.placeholder = `${what} (${megabytes} MB) is read, and too long to be shown here.`;
+    this.box.placeholder = `${what} (${megabytes(bytes.length)} MB) is read, and too long to be shown here.`;
     return this.take(bytes);
   }
 
   // Ends what is running.
   fail(message) {
     ++this.run;
+    this.progress.textContent = '';
     this.told.className = 'error';
     this.told.textContent = message;
   }
 
+  // A newer call ends this one.
   async take(bytes) {
-    const run = ++this.run; // a newer one ends this one
-    this.told.className = '';
+    const run = ++this.run;
     this.bytes = bytes;
+    this.clear();
+    try {
+      for await (const progress of this.read(bytes)) {
+        if (run !== this.run) return;
+        this.progress.textContent = progress;
+      }
+      this.finish();
+    } catch (error) {
+      if (run === this.run) this.fail(error.message);
+    }
+  }
+
+  clear() {
     this.results = [];
+    this.failed = 0;
+    this.warned = 0;
+    this.told.className = '';
+    this.told.textContent = ''; // nothing is read out before the end
+    this.progress.textContent = '';
     this.rows.replaceChildren();
     this.more.hidden = true;
+  }
+
+  // Gives how far it is, slice by slice: after the pause, in which a newer call may have taken the library's list.
+  async *read(bytes) {
     this.library.beginList(byId('log-json').checked);
-    let count = 0;
+    let [read, count] = [0, 0];
     for (const lines of slicesOf(bytes)) {
       count = this.library.addToList(lines);
+      read += lines.length;
       await pause();
-      if (run !== this.run) return;
+      yield `Reading: ${megabytes(read)} of ${megabytes(bytes.length)} MB, ${counted(count, 'name')}.`;
     }
     while (this.results.length < count) {
       this.checkSlice(count);
-      this.tell(count);
       await pause();
-      if (run !== this.run) return;
+      yield `${this.results.length.toLocaleString('en')} checked of ${counted(count, 'name')}.`;
     }
-    this.order();
-    this.tell(count);
-    this.showMore();
   }
 
   checkSlice(count) {
     const end = performance.now() + SLICE_MILLISECONDS;
     while (this.results.length < count && performance.now() < end) {
-      this.results.push(...this.library.checkList(this.results.length, this.results.length + 10));
+      for (const result of this.library.checkList(this.results.length, this.results.length + 10)) this.add(result);
     }
   }
 
-  tell(count) {
-    const failed = this.results.filter((result) => result.failed).length;
-    const warned = this.results.filter((result) => !result.failed && result.problems > 0).length;
-    const checked = this.results.length < count ? `${this.results.length.toLocaleString('en')} checked of ` : '';
-    this.told.textContent = `${checked}${counted(count, 'name')}: ${failed} failed, ${warned} with warnings.`;
-    if (count === 0 && this.bytes.length === 0) this.told.textContent = '';
+  add(result) {
+    this.results.push(result);
+    if (result.failed) ++this.failed;
+    else if (result.problems > 0) ++this.warned;
+  }
+
+  finish() {
+    this.order();
+    this.showMore();
+    this.progress.textContent = '';
+    if (this.bytes.length === 0) return;
+    const count = counted(this.results.length, 'name');
+    this.told.textContent = `${count}: ${this.failed} failed, ${this.warned} with warnings.`;
   }
 
   order() {
