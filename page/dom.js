@@ -73,3 +73,15 @@ function takeFiles(input, target, take, fail) {
     read(event.dataTransfer.files[0]);
   });
 }
+
+// Keeps the browser from leaving the page for a file that is dropped where nothing takes it.
+function refuseOtherDrops() {
+  for (const type of ['dragover', 'drop']) {
+    window.addEventListener(type, (event) => {
+      const isTaken = event.defaultPrevented || event.target.type === 'file';
+      if (isTaken || !event.dataTransfer.types.includes('Files')) return;
+      event.preventDefault();
+      event.dataTransfer.dropEffect = 'none';
+    });
+  }
+}

@@ -164,6 +164,7 @@ class Page {
 }
 
 async function main() {
+  refuseOtherDrops();
   const library = await Library.start(byId('wasm').textContent);
   const builtIn = encoder.encode(byId('built-in-config').textContent);
   library.setConfig(builtIn);

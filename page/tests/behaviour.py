@@ -243,6 +243,23 @@ def configuration(checks, browser):
     checks.true("built-in configuration again", "0xffd93036" in browser.text("members"))
 
 
+def dropped_beside(checks, browser):
+    """The browser opens a dropped file in place of the page, unless that is prevented. A text may be dropped."""
+    browser.open()
+    kept = browser.run("""const drop = (id, type, put) => {
+          const dataTransfer = new DataTransfer();
+          put(dataTransfer.items);
+          const event = new DragEvent(type, {dataTransfer, bubbles: true, cancelable: true});
+          document.getElementById(id).dispatchEvent(event);
+          return event.defaultPrevented;
+        };
+        const file = (items) => items.add(new File(['x'], 'x.log'));
+        const text = (items) => items.add('x', 'text/plain');
+        return ['told', 'name', 'log-file'].map((id) => ['dragover', 'drop'].map((type) =>
+          [drop(id, type, file), drop(id, type, text)]))""")
+    checks.same("drops that are prevented", kept, [[[True, False]] * 2, [[True, False]] * 2, [[False, False]] * 2])
+
+
 def no_memory(checks, browser):
     """A call that gets no memory fails, changes nothing, and keeps nothing."""
     browser.open()
