@@ -63,11 +63,21 @@ def contrast(checks, browser, mode):
         }
         return [255, 255, 255];
       };
+      const opacityOf = (element) => {
+        const colour = channels(getComputedStyle(element).color);
+        let opacity = colour.length === 4 ? colour[3] : 1;
+        for (; element; element = element.parentElement) opacity *= getComputedStyle(element).opacity;
+        return opacity;
+      };
       let worst = [99, ''];
       for (const element of document.querySelectorAll('body *:not(svg *)')) {
         const hasText = Array.from(element.childNodes).some((node) => node.nodeType === 3 && node.data.trim());
         if (!hasText || !element.checkVisibility() || element.tagName === 'SCRIPT') continue;
-        const [a, b] = [luminance(channels(getComputedStyle(element).color)), luminance(background(element))];
+        const under = background(element);
+        const opacity = opacityOf(element);
+        const seen = channels(getComputedStyle(element).color).slice(0, 3)
+            .map((c, i) => c * opacity + under[i] * (1 - opacity));
+        const [a, b] = [luminance(seen), luminance(under)];
         const ratio = (Math.max(a, b) + 0.05) / (Math.min(a, b) + 0.05);
         if (ratio < worst[0]) worst = [ratio, element.outerHTML.slice(0, 100)];
       }
@@ -76,6 +86,10 @@ def contrast(checks, browser, mode):
 
 
 BROKEN = 'kavrix://resource/{"contnt":"Jam","nav_mode":1,"mode":2,"scene":1}x.trafficBubble'
+
+
+# In a member, in what is ignored, and in the structure.
+ESCAPES = 'kavrix://resource/{"content":"a\\xff",\\x09"mode":0,"x":"\\xff"}.trafficBubble'
 
 
 def looks(checks, browser):
@@ -87,6 +101,10 @@ def looks(checks, browser):
         browser.type_into("name", BROKEN)
         contrast(checks, browser, mode)
         browser.picture(f"{mode}-warnings")
+        browser.type_into("name", ESCAPES)
+        roles = browser.run("return Array.from(document.querySelectorAll('#bytes .escape'), (e) => e.parentElement.classList[0])")
+        checks.same("parts with escapes", set(roles), {"member", "ignored", "structure"})
+        contrast(checks, browser, f"{mode}, escapes")
     browser.devtools("Emulation.setDeviceMetricsOverride", width=360, height=1800, deviceScaleFactor=2, mobile=True)
     browser.open()
     browser.type_into("name", BROKEN)
