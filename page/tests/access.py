@@ -43,8 +43,23 @@ def names(checks, browser):
     checks.true("roles", {"button", "combobox", "textbox", "listbox", "option", "status", "main"} <= roles, roles)
 
 
+def fill_live_regions(browser):
+    """Gives each of them something to tell of; returns who is to tell what."""
+    browser.open()
+    browser.type_into("name", "kavrix://resource/Main St_0@12.labelBubble")
+    browser.type_into("field-direction", "x")
+    browser.type_into("log", "kavrix://resource/Home_0_x_0@3.etaBubble")
+    browser.type_into("config", "[")
+    browser.get("copy").click()
+    return {"copied": "cop", "told-aloud": "labelBubble: it decodes", "fields-error": '"x"', "list-told": "1 name: ",
+            "config-told": "Not used: "}
+
+
 def visible_error(checks, browser):
-    """What is read aloud when it changes."""
+    """What is read aloud when it changes, and that it does."""
+    for region, told in fill_live_regions(browser).items():
+        browser.wait(f"return document.getElementById('{region}').textContent !== ''")
+        checks.true(f"told in {region}", told.lower() in browser.text(region).lower(), browser.text(region))
     live = browser.run("return Array.from(document.querySelectorAll('[role=status], [role=alert]'), (e) => e.id)")
     checks.same("live regions", live, ["copied", "told-aloud", "fields-error", "list-told", "config-told"])
 
@@ -119,6 +134,7 @@ def stays_inside(checks, browser):
     """Nothing was asked for but the page, nothing was told on the console; and a script that tries is stopped."""
     checks.same("console", browser.console(), [])
     asked = {address.split("#")[0] for address in browser.requests()} - {"about:blank"}
+    checks.true("request for the page", browser.address in asked, asked)
     checks.true("requests", all(address.startswith("blob:null/") or address == browser.address for address in asked), asked)
     checks.same("resources", browser.run("return performance.getEntriesByType('resource').length"), 0)
     browser.open()

@@ -203,8 +203,15 @@ def choices(checks, browser):
     browser.get("hide-defaults").click()
     left = [row[0] for row in browser.run(ROWS)]
     checks.true("members without defaults", "content" in left and "lan" in names and "lan" not in left, left)
-    browser.get("copy").click()
-    browser.wait("return document.getElementById('copied').textContent !== ''")
+    for works, told in (("true", "Copied."), ("false", "This browser does not let the page copy: copy the link itself.")):
+        browser.run("Object.defineProperty(navigator, 'clipboard', {configurable: true, value: {writeText: async (text) => {"
+                    f"  if (!{works}) throw new Error('no'); window.copiedText = text; }}}}}})")
+        browser.get("copy").click()
+        browser.wait("return document.getElementById('copied').textContent !== ''")
+        checks.same("told of the copy", browser.text("copied"), told)
+        browser.type_into("name", JAM.decode())
+        checks.same("told of the copy of another name", browser.text("copied"), "")
+    checks.same("copy", browser.run("return window.copiedText"), browser.get("link").get_attribute("href"))
     marker = b'kavrix://resource/{"marker_type":3,"mode":0}.marker'
     browser.type_into("name", marker.decode())
     checks.same("name that ends in .marker", browser.text("json"), run_over([marker], "decode", "--format", "json", "--marker")[0])

@@ -107,7 +107,7 @@ def run_tool(*arguments, given=b"", statuses=(0, 1)):
     return result
 
 
-def run_over(names, *arguments):
+def run_over(names, *arguments, statuses=(0, 1)):
     """One line of output for each name, newlines included."""
-    output = run_tool(*arguments, given=b"".join(name + b"\n" for name in names)).stdout.decode()
+    output = run_tool(*arguments, given=b"".join(name + b"\n" for name in names), statuses=statuses).stdout.decode()
     return output.splitlines(keepends=True)
