@@ -3,7 +3,9 @@
 const MOST_ROWS = 600;
 const MOST_PROBLEMS = 50;
 
+// As the library's JSON has it: JSON.stringify takes the sign of -0.0.
 function shownValue(value) {
+  if (Object.is(value, -0)) return '-0.0';
   const isWord = Number.isInteger(value) && value > 0xffff;
   return JSON.stringify(value) + (isWord ? ` (0x${value.toString(16).padStart(8, '0')})` : '');
 }

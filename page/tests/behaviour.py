@@ -118,6 +118,15 @@ def edit(checks, browser):
         checks.true("refused direction", found in browser.text("fields-error"), browser.text("fields-error"))
     browser.type_into("field-direction", "")
     checks.same("name without the field", browser.name(), b"kavrix://resource/Main Str_0@0.labelBubble")
+    browser.run("""window.thrown = [];
+        window.onerror = (message) => (window.thrown.push(message), true); // which tells the console nothing
+        const {form} = bubbles.page;
+        window.take = form.take;
+        form.take = () => { throw new Error('cannot be drawn') }""")
+    browser.type_into("field-direction", "7")
+    checks.same("failure of the page after the encoder's success", [browser.text("fields-error"), browser.run("return window.thrown")],
+                ["", ["Uncaught Error: cannot be drawn"]])
+    browser.run("bubbles.page.form.take = window.take; window.onerror = null")
     browser.type_into("name", 'kavrix://resource/{"cameras":[{"type":1}],"snap_text":"a\\nb"}.cameraBubble')
     browser.type_into("field-cameras", '[{"type":1,"speed":90}]')
     checks.true("edited list, kept newline", b'"speed":90' in browser.name() and b"a\\u000ab" in browser.name(), browser.name())
@@ -242,6 +251,9 @@ def configuration(checks, browser):
     checks.true("configuration that stays", "0xffd93036" in browser.text("members"))
     browser.type_into("config", text.replace("0xffd93036", "0xff00ff00"))
     browser.wait("return document.getElementById('members').textContent.includes('0xff00ff00')")
+    browser.type_into("config", text.replace("1.25, 14.0,", "1.25, -0.0,"))
+    browser.wait("return document.getElementById('members').textContent.includes('-0.0')")
+    checks.same("negative zero", dict(browser.run(ROWS))["style_float_1"], "-0.0")
     browser.get("config-file").send_keys(browser.address.removeprefix("file://").replace("index.html", "broken.json"))
     browser.wait("return document.getElementById('config-told').textContent.startsWith('Not used')")
     browser.run(DROP, "config", text.replace("0xffd93036", "0xff0000ff"), "dropped.json")
