@@ -67,13 +67,15 @@ class FieldsForm {
     if (text === '') this.values.delete(key.key);
     else this.values.set(key.key, !isTextKey(key) && isJson(text) ? text : JSON.stringify(text));
     const members = Array.from(this.values, ([name, value]) => `${JSON.stringify(name)}:${value}`);
+    let name;
     try {
-      const name = this.library.encode(this.kind, `{${members.join(',')}}`);
-      this.tell('', '');
-      this.take(name);
+      name = this.library.encode(this.kind, `{${members.join(',')}}`);
     } catch (error) {
       this.tell(error.message, error.field);
+      return;
     }
+    this.tell('', '');
+    this.take(name);
   }
 
   tell(message, field) {
