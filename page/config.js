@@ -1,5 +1,6 @@
 // The configuration, as a text that the library's own loader reads.
 
+// Sets the built-in one to begin with; `onChange` is called for all that come after it.
 function watchConfig(library, builtIn, onChange) {
   const box = byId('config');
   const told = byId('config-told');
@@ -7,17 +8,21 @@ function watchConfig(library, builtIn, onChange) {
     told.className = 'error';
     told.textContent = `Not used: ${message}`;
   };
+  const set = (bytes, source) => {
+    library.setConfig(bytes);
+    box.removeAttribute('aria-invalid');
+    told.className = 'muted';
+    told.textContent = `In use: ${source}.`;
+  };
   const use = (bytes, source) => {
     try {
-      library.setConfig(bytes);
-      box.removeAttribute('aria-invalid');
-      told.className = 'muted';
-      told.textContent = `In use: ${source}.`;
-      onChange();
+      set(bytes, source);
     } catch (error) {
       box.setAttribute('aria-invalid', 'true');
       fail(error.message);
+      return;
     }
+    onChange();
   };
   const useTyped = debounced(150, () => use(encoder.encode(box.value), 'the text below'));
   const show = (bytes, source) => {
@@ -28,5 +33,6 @@ function watchConfig(library, builtIn, onChange) {
   box.addEventListener('input', useTyped);
   byId('config-reset').addEventListener('click', () => show(builtIn, 'the built-in configuration'));
   takeFiles(byId('config-file'), box, show, fail);
-  show(builtIn, 'the built-in configuration');
+  box.value = decoder.decode(builtIn);
+  set(builtIn, 'the built-in configuration');
 }

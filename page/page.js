@@ -167,10 +167,9 @@ async function main() {
   refuseOtherDrops();
   const library = await Library.start(byId('wasm').textContent);
   const builtIn = encoder.encode(byId('built-in-config').textContent);
-  library.setConfig(builtIn);
   const page = new Page(library, JSON.parse(byId('samples').textContent));
-  if (!page.takeLink()) page.takeSample(0);
   watchConfig(library, builtIn, () => page.show('config'));
+  if (!page.takeLink()) page.takeSample(0);
   new NameList(library, (name) => page.open(name));
   // For the browser's console, and for tests.
   window.bubbles = { library, page, bytesOfTyped, shownText, started: performance.now() };

@@ -66,6 +66,17 @@ def link(checks, browser):
         checks.same(f"reading of a link that names {way}", browser.get("as").get_attribute("value"), "auto")
 
 
+def starts(checks, browser):
+    """With one configuration and one name, each shown once."""
+    script = browser.devtools("Page.addScriptToEvaluateOnNewDocument", source="""window.shown = [];
+        new MutationObserver((changes) => window.shown.push(...changes.map(({target}) => target.id)))
+          .observe(document, {childList: true, subtree: true})""")
+    browser.open()
+    browser.devtools("Page.removeScriptToEvaluateOnNewDocument", identifier=script["identifier"])
+    shown = browser.run("return window.shown")
+    checks.same("times that they are shown", [shown.count("json"), shown.count("config-told")], [1, 1])
+
+
 def hover(checks, browser):
     browser.open()
     browser.type_into("name", JAM.decode())
