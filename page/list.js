@@ -45,7 +45,11 @@ class NameList {
     });
     takeFiles(byId('log-file'), this.box, (bytes, name) => this.takeLong(bytes, name), (message) => this.fail(message));
     byId('log-json').addEventListener('change', () => this.take(this.bytes));
-    this.more.addEventListener('click', () => this.showMore());
+    this.more.addEventListener('click', () => {
+      const first = this.shown;
+      this.showMore();
+      if (this.more.hidden) this.rows.children[first].querySelector('button').focus(); // it was on what is hidden now
+    });
   }
 
   takeLong(bytes, what) {

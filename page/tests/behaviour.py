@@ -401,6 +401,18 @@ def told_of_log(checks, browser):
     checks.same("told of a log that cannot be read", browser.text("list-told"), "no memory for it")
 
 
+def last_rows(checks, browser):
+    browser.open()
+    browser.type_into("log", "kavrix://resource/Home_0_x_0@3.etaBubble\n" * 250)
+    browser.wait("return document.getElementById('list-told').textContent.startsWith('250 names: ')")
+    for rows, has_focus in ((200, "list-more"), (250, "")):
+        browser.get("list-more").click()
+        checks.same("rows", len(browser.driver.find_elements("css selector", "#list li")), rows)
+        checks.same(f"focus at {rows} rows", browser.run("return document.activeElement.id"), has_focus)
+    first_new = browser.driver.find_element("css selector", "#list li:nth-child(201) button")
+    checks.same("focus when all rows are shown", browser.driver.switch_to.active_element, first_new)
+
+
 def log(checks, browser, most_gap):
     """Returns how long the longest frame took, and all of it, in milliseconds."""
     browser.open()
