@@ -117,7 +117,8 @@ def looks(checks, browser):
         contrast(checks, browser, mode)
         browser.picture(f"{mode}-warnings")
         browser.type_into("name", ESCAPES)
-        roles = browser.run("return Array.from(document.querySelectorAll('#bytes .escape'), (e) => e.parentElement.classList[0])")
+        roles = browser.run("return Array.from(document.querySelectorAll('#bytes .escape'),"
+                            "(escape) => escape.parentElement.classList[0])")
         checks.same("parts with escapes", set(roles), {"member", "ignored", "structure"})
         contrast(checks, browser, f"{mode}, escapes")
     browser.devtools("Emulation.setDeviceMetricsOverride", width=360, height=1800, deviceScaleFactor=2, mobile=True)

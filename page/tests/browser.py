@@ -71,6 +71,13 @@ class Browser:
         self.run("const box = document.getElementById(arguments[0]); box.value = arguments[1];"
                  "box.dispatchEvent(new Event('input', {bubbles: true}))", element_id, text)
 
+    def drop(self, element_id, text, file):
+        """Drops a file that holds a text on a box."""
+        self.run("""const files = new DataTransfer();
+            files.items.add(new File([arguments[1]], arguments[2]));
+            document.getElementById(arguments[0]).dispatchEvent(
+                new DragEvent('drop', {dataTransfer: files, bubbles: true, cancelable: true}))""", element_id, text, file)
+
     def call(self, method, name, *values):
         """What a function of the library says about a name."""
         return self.run("return window.bubbles.library[arguments[0]](Uint8Array.from(arguments[1]), ...arguments[2])",
