@@ -21,7 +21,7 @@ def read(path):
 
 
 def inside_script(text):
-    """A script element ends with the first "</", whatever it holds."""
+    """A script element ends with the first "</script", and "<!--" may hide that, also where they are part of a text."""
     if "</" in text or "<!--" in text:
         sys.exit('assemble: "</" or "<!--" would end the script')
     return text

@@ -176,6 +176,6 @@ async function main() {
 }
 
 main().catch((error) => {
-  byId('told').textContent = `The page cannot start: ${error.message}. It needs a browser of 2023 or later.`;
+  byId('told').textContent = `The page cannot start: ${error.message}. It needs a browser of mid-2023 or later.`;
   byId('told').className = 'error';
 });
