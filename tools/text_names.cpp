@@ -76,8 +76,9 @@ const char* HidingFormat(std::string_view first) {
       {"\xFF\xFE"sv, "UTF-16; read it with iconv -f UTF-16 -t UTF-8"},
       {"\xFE\xFF"sv, "UTF-16; read it with iconv -f UTF-16 -t UTF-8"},
   };
-  constexpr std::size_t kBzip2Level = 3;  // "BZh", the level, the beginning of a block
-  const bool is_bzip2 = StartsWith(first, "BZh") && StartsWith(first.substr(kBzip2Level + 1), "1AY&SY");
+  constexpr std::string_view kBzip2 = "BZh";  // then the level, a digit, and the beginning of a block
+  const bool is_bzip2 = StartsWith(first, kBzip2) && first.size() > kBzip2.size() &&
+                        StartsWith(first.substr(kBzip2.size() + 1), "1AY&SY");
   if (is_bzip2) return "compressed by bzip2; read it with bzcat";
   for (const auto& [magic, format] : kFormats) {
     if (StartsWith(first, magic)) return format;

@@ -137,6 +137,11 @@ TEST_F(ExtractCommandTest, FilesThatHideTheirNamesAreToldOf) {
 TEST_F(ExtractCommandTest, TextThatBeginsAlmostLikeACompressedFileIsText) {
   EXPECT_EQ(RunTool({"extract"}, "BZhang says " + kPrefix + "1.turnBubble\n").output,
             kPrefix + "1.turnBubble\n");
+  for (const std::string text : {"B", "BZ", "BZh", "BZh9", "BZh91AY&S"}) {
+    const ToolResult result = RunTool({"extract"}, text);
+    EXPECT_EQ(result.errors, "") << text;
+    EXPECT_EQ(result.status, 0) << text;
+  }
 }
 
 TEST_F(ExtractCommandTest, PipeWithANameLosesNothing) {
