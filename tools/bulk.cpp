@@ -27,10 +27,10 @@ struct Batch {
 // Enough names to make the hand-over between threads cheap, few enough to keep a batch's results in cache.
 constexpr std::size_t kMostNames = 64;
 
-bool ShowsProgress(const BulkOptions& options) {
-  const bool reads_input = options.names.empty() && options.input.value_or("-") == "-";
-  const bool types_names = reads_input && isatty(STDIN_FILENO) != 0;
-  return isatty(STDERR_FILENO) != 0 && isatty(STDOUT_FILENO) == 0 && !types_names;
+bool ShowsResults(const BulkOptions& options) { return options.prints_results && isatty(STDOUT_FILENO) != 0; }
+
+bool ShowsProgress(const NameSource& source, const BulkOptions& options) {
+  return isatty(STDERR_FILENO) != 0 && !ShowsResults(options) && !source.IsTyped();
 }
 
 }  // namespace
@@ -66,9 +66,9 @@ TextNames InputNames(const BulkOptions& options) {
 }
 
 std::size_t WorkInBulk(NameSource& source, const BulkOptions& options, const NameWork& work) {
-  const bool unbuffered = options.unbuffered || isatty(STDOUT_FILENO) != 0;
+  const bool unbuffered = options.unbuffered || ShowsResults(options);
   Output output(unbuffered);
-  Progress progress(ShowsProgress(options), source.Bytes());
+  Progress progress(ShowsProgress(source, options), source.Bytes());
   std::size_t failed = 0;
 
   // What was written while the input pauses is not held back, also when a thread writes it after the pause

@@ -32,6 +32,7 @@ struct BulkOptions {
   bool null_delimited = false;       // names in the input end in NUL, not newline
   int jobs = 1;                      // number of threads
   bool unbuffered = false;           // write each result as soon as it is ready, as on a terminal
+  bool prints_results = true;        // one a name; else the command prints when all names are done
 };
 
 // Adds --jobs to a command.

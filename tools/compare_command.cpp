@@ -89,7 +89,8 @@ int CompareConfigurations(const CompareOptions& options) {
     summary.Add(decoded.kind ? MarkerOf(*decoded.kind).substr(1) : "", name, differences);
     return {"", true, ""};
   };
-  const bool differs = WorkInBulk(options.names.bulk, compare) != 0;
+  names.bulk.prints_results = !options.summary;
+  const bool differs = WorkInBulk(names.bulk, compare) != 0;
   Output output(false);
   output.Write(summary.Lines());
   output.Flush();

@@ -36,6 +36,9 @@ class NameSource {
   // From another thread: makes a Take that waits for input return soon, as at the end.
   virtual void Interrupt() = 0;
 
+  // Whether somebody types the names on a terminal.
+  virtual bool IsTyped() const = 0;
+
   // The size of the whole input; none when it is unknown.
   virtual std::optional<std::uint64_t> Bytes() const = 0;
 
@@ -51,6 +54,7 @@ class GivenNames : public NameSource {
   bool Take(std::size_t most, std::vector<InputName>& names) override;
   void SetOnPause(std::function<void()>) override {}
   void Interrupt() override {}
+  bool IsTyped() const override { return false; }
   std::optional<std::uint64_t> Bytes() const override;
   std::uint64_t BytesTaken() const override { return bytes_taken_; }
 

@@ -140,6 +140,7 @@ CommandDescription SurveyCommand() {
                   "Files with names one a line, with logs, or with reports; without any, standard input",
                   "With --extract: every line of the logs is JSON");
     AddJobs(command, options->logs.bulk);
+    options->logs.bulk.prints_results = false;
     command.Flag("--extract", options->extract, "The files are logs; survey the names that extract finds");
     command.Flag("--merge", options->merge, "The files hold reports, one a line; make one of them");
     command.Flag("--no-examples", options->no_examples, "Leave out the examples: names hold destinations");

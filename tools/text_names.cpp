@@ -127,6 +127,11 @@ bool TextNames::Take(std::size_t most, std::vector<InputName>& names) {
   return !names.empty();
 }
 
+bool TextNames::IsTyped() const {
+  const bool reads_standard_input = std::find(paths_.begin(), paths_.end(), "-") != paths_.end();
+  return reads_standard_input && isatty(STDIN_FILENO) != 0;
+}
+
 // Reads on until a name waits. False at the end of the last file.
 bool TextNames::Fill() {
   waiting_.clear();

@@ -36,6 +36,7 @@ class TextNames : public NameSource {
   bool Take(std::size_t most, std::vector<InputName>& names) override;
   void SetOnPause(std::function<void()> on_pause) override { on_pause_ = std::move(on_pause); }
   void Interrupt() override { interrupted_ = true; }
+  bool IsTyped() const override;
   std::optional<std::uint64_t> Bytes() const override { return bytes_; }
   std::uint64_t BytesTaken() const override { return bytes_taken_; }
 

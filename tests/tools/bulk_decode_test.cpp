@@ -128,6 +128,19 @@ TEST(BulkDecodeTest, LongRunShowsItsProgressOnATerminalAndClearsIt) {
   EXPECT_EQ(lines.back(), "^[K8");
 }
 
+// Also where results would be on the same terminal, if they come only at the end; the terminal is no input
+// here.
+TEST(BulkDecodeTest, CommandsThatPrintAtTheEndShowTheirProgressOnATerminal) {
+  for (const std::string command : {"survey", "gallery --input"}) {
+    const ToolResult result =
+        RunShell("cd $(mktemp -d); export TOOL; mkfifo names; (" + std::string(kSlowNames) +
+                 ") > names & script -qc '\"$TOOL\" " + command +
+                 " names' /dev/null | tr '\\r\\033' '\\n^'; wait; rm -r $PWD");
+    EXPECT_THAT(result.output, ContainsRegex("\\^\\[K[5-8] names, [0-9]+ a second, [5-8] failed\n"))
+        << command;
+  }
+}
+
 TEST(BulkDecodeTest, ProgressIsCutToTheWidthOfTheTerminal) {
   const ToolResult result = RunShell("export TOOL; script -qc 'stty cols 15; (" + std::string(kSlowNames) +
                                      ") | \"$TOOL\" decode > /dev/null' /dev/null | tr '\\r\\033' '\\n^'");
