@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "inspect/byte_shares.h"
+#include "inspect/explain_name.h"
 #include "inspect/kind_model.h"
 #include "inspect/members.h"
 #include "inspect/name_reading.h"
@@ -156,12 +157,17 @@ class Explainer {
 
 }  // namespace
 
+Explanation ExplainName(const std::string& resource_name, EntryPoint entry_point,
+                        const TransformSetup& setup) {
+  return Explainer(resource_name, entry_point, setup).Explain();
+}
+
 Explanation ExplainBubbleName(const std::string& resource_name, const TransformSetup& setup) {
-  return Explainer(resource_name, EntryPoint::kBubble, setup).Explain();
+  return ExplainName(resource_name, EntryPoint::kBubble, setup);
 }
 
 Explanation ExplainMarkerName(const std::string& resource_name, const TransformSetup& setup) {
-  return Explainer(resource_name, EntryPoint::kMarker, setup).Explain();
+  return ExplainName(resource_name, EntryPoint::kMarker, setup);
 }
 
 std::vector<Problem> CheckBubbleName(const std::string& resource_name) {

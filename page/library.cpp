@@ -8,7 +8,7 @@
 #include "inspect/config_setup.h"
 #include "inspect/decoded_json.h"
 #include "inspect/drawn_name.h"
-#include "inspect/explain.h"
+#include "inspect/explain_name.h"
 #include "inspect/explained_json.h"
 #include "inspect/json_writer.h"
 #include "inspect/kind_json.h"
@@ -64,11 +64,6 @@ inspect::Decoder& Library::DecoderOf(EntryPoint entry_point) {
   return entry_point == EntryPoint::kMarker ? *markers_ : *bubbles_;
 }
 
-inspect::Explanation Library::ExplanationOf(const std::string& name, EntryPoint entry_point) const {
-  return entry_point == EntryPoint::kMarker ? inspect::ExplainMarkerName(name, setup_)
-                                            : inspect::ExplainBubbleName(name, setup_);
-}
-
 std::string Library::Decode(const std::string& name, ReadAs as) {
   return inspect::ToJsonLine(DecoderOf(EntryOf(name, as)).Decode(name));
 }
@@ -78,7 +73,7 @@ bool Library::HasFailed(const std::string& name, ReadAs as) {
 }
 
 std::string Library::Explain(const std::string& name, ReadAs as) const {
-  return inspect::ToJsonLine(ExplanationOf(name, EntryOf(name, as)));
+  return inspect::ToJsonLine(inspect::ExplainName(name, EntryOf(name, as), setup_));
 }
 
 std::string Library::Draw(const std::string& name, ReadAs as, Mode mode) {
@@ -90,7 +85,7 @@ std::string Library::Draw(const std::string& name, ReadAs as, Mode mode) {
   if (mode == Mode::kOfName || decoded.descriptor == nullptr || decoded.descriptor->mode_flag == is_day) {
     return inspect::PictureOf(decoded, entry_point, problem);
   }
-  if (const auto other = inspect::InMode(ExplanationOf(name, entry_point), is_day)) {
+  if (const auto other = inspect::InMode(inspect::ExplainName(name, entry_point, setup_), is_day)) {
     return inspect::PictureOf(decoder.Decode(*other), entry_point, problem);
   }
   return inspect::PictureOf(decoded, entry_point, problem, is_day);

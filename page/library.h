@@ -59,7 +59,6 @@ class Library {
 
  private:
   inspect::Decoder& DecoderOf(EntryPoint entry_point);
-  inspect::Explanation ExplanationOf(const std::string& name, EntryPoint entry_point) const;
 
   inspect::TransformSetup setup_;
   std::unique_ptr<inspect::Decoder> bubbles_;

@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "inspect/explain.h"
+#include "inspect/explain_name.h"
 #include "inspect/explained_json.h"
 #include "map_resource/encode_error.h"
 #include "tools/explained_text.h"
@@ -28,8 +28,7 @@ int Run(const ExplainOptions& options) {
   const auto explain = [&](const InputName& given) -> NameResult {
     const std::string& name = given.name;
     try {
-      const inspect::Explanation explanation = options.names.marker ? inspect::ExplainMarkerName(name, setup)
-                                                                    : inspect::ExplainBubbleName(name, setup);
+      const auto explanation = inspect::ExplainName(name, options.names.Entry(), setup);
       return {as_text ? ToText(explanation, text_options) : inspect::ToJsonLine(explanation),
               explanation.has_failed, explanation.has_failed ? hints.For(name) : ""};
     } catch (const EncodeError& error) {

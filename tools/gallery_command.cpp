@@ -12,7 +12,7 @@
 
 #include "inspect/decoder.h"
 #include "inspect/drawn_name.h"
-#include "inspect/explain.h"
+#include "inspect/explain_name.h"
 #include "inspect/problems.h"
 #include "map_resource/encode_error.h"
 #include "tools/error_line.h"
@@ -84,9 +84,7 @@ class Painter {
   std::optional<std::string> OtherName(const std::string& name, bool is_day) const {
     if (name.size() > kLongestExplained) return std::nullopt;
     try {
-      return inspect::InMode(entry_point_ == EntryPoint::kMarker ? inspect::ExplainMarkerName(name, setup_)
-                                                                 : inspect::ExplainBubbleName(name, setup_),
-                             is_day);
+      return inspect::InMode(inspect::ExplainName(name, entry_point_, setup_), is_day);
     } catch (const EncodeError&) {  // the prefix holds a marker, and nothing can be explained
       return std::nullopt;
     }
@@ -195,6 +193,7 @@ CommandDescription GalleryCommand() {
     AddDrawnNameOptions(command, *options,
                         "Resource names; without any, read one a line from standard input");
     AddJobs(command, options->bulk);
+    options->bulk.prints_results = false;
     command.Footer(
         "Prints one HTML page that needs nothing else: no script, nothing fetched. Each name is drawn by day "
         "and\n"
