@@ -117,8 +117,7 @@ std::size_t NameEnds::EndByMarkers(std::size_t begin) const {
     if (EndsWithDirection(name.substr(rest, dot - rest))) return last;
   }
   if (last != kNone) return last;
-  const bool is_told =
-      limit - rest >= kNotValidTail.size() && name.substr(limit - kNotValidTail.size()) == kNotValidTail;
+  const bool is_told = EndsWith(name.substr(rest), kNotValidTail);
   return is_told ? limit - kNotValidTail.size() : limit;
 }
 
