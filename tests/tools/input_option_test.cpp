@@ -70,10 +70,9 @@ TEST(InputOptionTest, DrawTakesTheOnlyNameOfTheFile) {
 
 TEST(InputOptionTest, CheckNamesTheFile) {
   const ToolResult result = RunShell(
-      "printf 'kavrix://resource/{\"mode\":0}.trafficBubble\\nx\\n' > /tmp/kavrix_test_names; "
-      "\"$TOOL\" check --input /tmp/kavrix_test_names; rm /tmp/kavrix_test_names");
-  EXPECT_EQ(result.output,
-            "/tmp/kavrix_test_names:2:0: error: no marker of a kind occurs in the name [no-marker]\n");
+      "cd $(mktemp -d); printf 'kavrix://resource/{\"mode\":0}.trafficBubble\\nx\\n' > names; "
+      "\"$TOOL\" check --input names; rm -r $PWD");
+  EXPECT_EQ(result.output, "names:2:0: error: no marker of a kind occurs in the name [no-marker]\n");
   EXPECT_THAT(RunTool({"check", "--input", "-"}, "x\n").output, StartsWith("-:1:0: error: "));
 }
 
