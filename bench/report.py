@@ -4,6 +4,7 @@ import datetime
 import os
 import re
 import subprocess
+import textwrap
 
 
 def table(header, rows):
@@ -28,10 +29,11 @@ def machine(*packages):
     model = re.search(r"Model name:\s*(.*)", output("lscpu"))
     compiler = output("g++", "--version").splitlines()[0]
     versions = ", ".join(f"{name} {package(name)}" for name in packages)
-    return (
+    text = (
         f"Measured on {datetime.date.today().isoformat()}: {model.group(1) if model else 'a processor without a name'}, "
-        f"{os.cpu_count()} processors; {compiler}; Release build; {versions}.\n"
+        f"{os.cpu_count()} processors; {compiler}; Release build; {versions}."
     )
+    return textwrap.fill(text, 120, break_on_hyphens=False) + "\n"
 
 
 def rewrite_section(path, name, text):
