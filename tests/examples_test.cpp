@@ -7,7 +7,7 @@
 #include "tests/support/read_file.h"
 #include "tests/support/tool.h"
 
-// README.md quotes the programs of examples/ and their output, indented by four blanks.
+// The README and docs/embedding.md quote the programs of examples/ and their output, indented by four blanks.
 namespace kavrix::test {
 namespace {
 
@@ -27,20 +27,21 @@ std::string WithoutSourceLines(const std::string& text) {
   return std::regex_replace(text, std::regex(R"(\.cpp:[0-9]+)"), ".cpp:N");
 }
 
-TEST(ExamplesTest, ReadmeQuotesEachProgramAndWhatItPrints) {
-  const std::string readme = WithoutSourceLines(ReadFile(KAVRIX_SOURCE_DIR "/README.md"));
+TEST(ExamplesTest, DocumentsQuoteEachProgramAndWhatItPrints) {
+  const std::string quotes = WithoutSourceLines(ReadFile(KAVRIX_SOURCE_DIR "/README.md") +
+                                                ReadFile(KAVRIX_SOURCE_DIR "/docs/embedding.md"));
   int programs = 0;
   for (const auto& file : std::filesystem::directory_iterator(KAVRIX_SOURCE_DIR "/examples")) {
     if (file.path().extension() != ".cpp") continue;
     ++programs;
     const std::string program = Indented(ReadFile(file.path()));
-    EXPECT_NE(readme.find(program), std::string::npos) << file.path() << " is not in README.md:\n" << program;
+    EXPECT_NE(quotes.find(program), std::string::npos) << file.path() << " is not quoted:\n" << program;
     const ToolResult result =
         RunShell("'" KAVRIX_EXAMPLES_DIR "/example_" + file.path().stem().string() + "'");
     EXPECT_EQ(result.status, 0) << file.path();
     EXPECT_NE(result.output, "") << file.path();
-    EXPECT_NE(readme.find("\n" + Indented(WithoutSourceLines(result.output))), std::string::npos)
-        << file.path() << " prints what README.md does not say:\n"
+    EXPECT_NE(quotes.find("\n" + Indented(WithoutSourceLines(result.output))), std::string::npos)
+        << file.path() << " prints what no document says:\n"
         << result.output;
   }
   EXPECT_GT(programs, 3);
