@@ -8,10 +8,10 @@
 
 namespace kavrix::inspect {
 
-// What a configuration gives a transform.
+/// What a configuration gives a transform.
 struct TransformSetup {
-  std::shared_ptr<KavrixContext> context;  // not null
-  MarkerBubbleConfig marker_bubble;
+  std::shared_ptr<KavrixContext> context;  ///< For the transform's constructor: not null.
+  MarkerBubbleConfig marker_bubble;        ///< For MapResourceTransform::SetMarkerBubbleConfig.
 };
 
 }  // namespace kavrix::inspect

@@ -9,33 +9,33 @@
 
 namespace kavrix {
 
-// The style records of the bubble layer, in the order of the configuration that fills them. Records that no
-// kind reads keep their places.
+/// The style records of the bubble layer, in the order of the configuration that fills them. Records that no
+/// kind reads keep their places.
 struct BubbleLayerConfigContainer {
-  BubbleStyleRecord<4> route_name_style;        // 1: route name, scene 0
-  BubbleStyleRecord<12> traffic_style;          // 2: traffic, scene 0
-  BubbleStyleRecord<8> companion_style;         // 3: companion
-  BubbleStyleRecord<18> camera_style;           // 4: camera, scene 0
-  BubbleStyleRecord<12> eta_style;              // 5: ETA, scene 0
-  BubbleStyleRecord<12> eta_scene_style;        // 6: ETA, any other scene
-  BubbleStyleRecord<4> route_label_style;       // 7: route label
-  BubbleStyleRecord<18> camera_scene_style;     // 8: camera, any other scene
-  BubbleStyleRecord<14> traffic_nav_style;      // 9: traffic, any other scene, "nav_mode" 1
-  BubbleStyleRecord<4> route_name_scene_style;  // 10: route name, any other scene
-  BubbleStyleRecord<2> turn_style;              // 11: turn, only the name
-  BubbleStyleRecord<18> unread_style_12;        // 12
-  BubbleStyleRecord<2> unread_style_13;         // 13
-  BubbleStyleRecord<4> hd_long_solid_style;     // 14: HD long solid
-  BubbleStyleRecord<2> unread_style_15;         // 15
-  BubbleStyleRecord<4> indoor_entries_style;    // 16: indoor entries
-  BubbleStyleRecord<4> light_wait_style;        // 17: light wait
-  BubbleStyleRecord<2> unread_style_18;         // 18
-  BubbleStyleRecord<2> unread_style_19;         // 19
-  BubbleStyleRecord<2> unread_style_20;         // 20
-  BubbleStyleRecord<11> traffic_scene_style;    // 21: traffic, any other scene, "nav_mode" not 1
+  BubbleStyleRecord<4> route_name_style;        ///< Record 1: route name, scene 0.
+  BubbleStyleRecord<12> traffic_style;          ///< Record 2: traffic, scene 0.
+  BubbleStyleRecord<8> companion_style;         ///< Record 3: companion.
+  BubbleStyleRecord<18> camera_style;           ///< Record 4: camera, scene 0.
+  BubbleStyleRecord<12> eta_style;              ///< Record 5: ETA, scene 0.
+  BubbleStyleRecord<12> eta_scene_style;        ///< Record 6: ETA, any other scene.
+  BubbleStyleRecord<4> route_label_style;       ///< Record 7: route label.
+  BubbleStyleRecord<18> camera_scene_style;     ///< Record 8: camera, any other scene.
+  BubbleStyleRecord<14> traffic_nav_style;      ///< Record 9: traffic, any other scene, "nav_mode" 1.
+  BubbleStyleRecord<4> route_name_scene_style;  ///< Record 10: route name, any other scene.
+  BubbleStyleRecord<2> turn_style;              ///< Record 11: turn, only the name.
+  BubbleStyleRecord<18> unread_style_12;        ///< Record 12, which no kind reads.
+  BubbleStyleRecord<2> unread_style_13;         ///< Record 13, which no kind reads.
+  BubbleStyleRecord<4> hd_long_solid_style;     ///< Record 14: HD long solid.
+  BubbleStyleRecord<2> unread_style_15;         ///< Record 15, which no kind reads.
+  BubbleStyleRecord<4> indoor_entries_style;    ///< Record 16: indoor entries.
+  BubbleStyleRecord<4> light_wait_style;        ///< Record 17: light wait.
+  BubbleStyleRecord<2> unread_style_18;         ///< Record 18, which no kind reads.
+  BubbleStyleRecord<2> unread_style_19;         ///< Record 19, which no kind reads.
+  BubbleStyleRecord<2> unread_style_20;         ///< Record 20, which no kind reads.
+  BubbleStyleRecord<11> traffic_scene_style;    ///< Record 21: traffic, any other scene, "nav_mode" not 1.
 };
 
-// Calls visit(member name, record) for the 21 records in order.
+/// Calls `visit(member_name, record)` for the 21 records in order.
 template <class Config, class Visit>
 void ForEachStyleRecord(Config& config, Visit visit) {
   visit("route_name_style", config.route_name_style);
@@ -61,12 +61,13 @@ void ForEachStyleRecord(Config& config, Visit visit) {
   visit("traffic_scene_style", config.traffic_scene_style);
 }
 
-// The values of one style record that are floats. The marker bubble's record is among the records.
+/// Says which values of one style record are floats.
 struct FloatValues {
-  std::string_view record;
-  std::array<std::size_t, 7> numbers;  // filled up with 0
+  std::string_view record;             ///< The record's member name, or "marker_bubble".
+  std::array<std::size_t, 7> numbers;  ///< The values' numbers, from 1; filled up with 0.
 };
 
+/// All style records that have float values, the marker bubble's among them.
 inline constexpr std::array<FloatValues, 13> kFloatValues = {{
     {"route_name_style", {3}},
     {"traffic_style", {3, 4, 5, 6, 8, 9, 10}},
@@ -83,8 +84,8 @@ inline constexpr std::array<FloatValues, 13> kFloatValues = {{
     {"marker_bubble", {3}},
 }};
 
-// Whether value `number`, from 1, of the style record with this member name is a float. Every other value is
-// a word.
+/// Returns true when value `number`, from 1, of the style record with this member name ("marker_bubble" for
+/// that of marker bubbles) is a float. Every other value is a word.
 constexpr bool IsFloatValue(std::string_view record, std::size_t number) {
   for (const FloatValues& floats : kFloatValues) {
     for (const std::size_t float_number : floats.numbers) {

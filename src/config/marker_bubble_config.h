@@ -5,7 +5,8 @@
 
 namespace kavrix {
 
-// The style record of the marker bubble. The transform holds it; the context does not.
+/// The style record of the marker bubble. The transform holds it
+/// (MapResourceTransform::SetMarkerBubbleConfig); the context does not.
 struct MarkerBubbleConfig : BubbleStyleRecord<4> {};
 
 }  // namespace kavrix

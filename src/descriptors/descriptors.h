@@ -1,7 +1,8 @@
 #ifndef KAVRIX_DESCRIPTORS_DESCRIPTORS_H_
 #define KAVRIX_DESCRIPTORS_DESCRIPTORS_H_
 
-// Includes every descriptor type.
+/// @file
+/// Includes every descriptor type.
 #include "bubble_draw_descriptor.h"
 #include "camera_draw_descriptor.h"
 #include "companion_bubble_draw_descriptor.h"

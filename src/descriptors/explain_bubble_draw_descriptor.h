@@ -10,7 +10,9 @@
 
 namespace kavrix {
 
-// The explanation of a route: a main line, secondary lines, an icon.
+/// The explanation of a route: a main line, secondary lines, an icon. `.routeExplainBubble`, without a style.
+///
+/// Base members: `scene`, `lan`, `direction`, `mode_flag`, `icon`.
 class KAVRIX_EXPORT ExplainBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override;
@@ -25,12 +27,12 @@ class KAVRIX_EXPORT ExplainBubbleDrawDescriptor : public BubbleDrawDescriptor {
     visitor.Integer("bubble_type", bubble_type);
   }
 
-  std::string uid;              // identifier of the explained item
-  std::string explain_content;  // main line; the base's `content` stays empty
-  std::vector<std::string> second_content;
-  std::int32_t second_type = 0;
-  std::int32_t scene_type = 0;
-  std::int32_t bubble_type = 0;
+  std::string uid;                          ///< Identifier of the explained item: "uid".
+  std::string explain_content;              ///< Main line: "content". The base's `content` stays empty.
+  std::vector<std::string> second_content;  ///< Secondary lines: the strings of the array "second_content".
+  std::int32_t second_type = 0;             ///< Kind of the secondary lines: "second_type".
+  std::int32_t scene_type = 0;              ///< Scene that the explanation belongs to: "scene_type".
+  std::int32_t bubble_type = 0;             ///< Variant of the bubble: "bubble_type".
 };
 
 }  // namespace kavrix

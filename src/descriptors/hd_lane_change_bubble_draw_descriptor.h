@@ -9,7 +9,9 @@
 
 namespace kavrix {
 
-// The advice of HD guidance to change lanes.
+/// The advice of HD guidance to change lanes: `.LaneChangeBubble`, without a style.
+///
+/// Base members: `scene`, `content`, `lan`, `type`, `direction`, `mode_flag`, `is_force`.
 class KAVRIX_EXPORT HDLaneChangeBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override;
@@ -18,12 +20,12 @@ class KAVRIX_EXPORT HDLaneChangeBubbleDrawDescriptor : public BubbleDrawDescript
     visitor.Integer("distance", distance);
   }
 
-  // Reads the members from the JSON object inside a whole resource name, prefix and marker included. False,
-  // and nothing read, when there is none.
+  /// Reads the members from the JSON object inside a whole resource name, prefix and marker included.
+  /// Returns false, with nothing read, when there is none.
   bool InitWithJson(const std::string& text);
 
-  std::int32_t target_lane = 0;  // lane to change to, from the left, from 1; 0: unknown
-  std::int32_t distance = 0;     // left for the change, in metres
+  std::int32_t target_lane = 0;  ///< Lane to change to, from the left, from 1; 0: unknown. "target_lane".
+  std::int32_t distance = 0;     ///< Left for the change, in metres: "distance".
 };
 
 }  // namespace kavrix

@@ -9,7 +9,11 @@
 
 namespace kavrix {
 
-// The label of the entries of an indoor place.
+/// The label of the entries of an indoor place: `.inDoorEntriesBubble`. The style record is
+/// `indoor_entries_style`.
+///
+/// Base members: `content`, `lan`, `bubble_kind` (13), `direction`, `mode_flag`, `style_name`, `style_word`,
+/// `style_scale`.
 class KAVRIX_EXPORT IndoorEntriesBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override;
@@ -18,8 +22,9 @@ class KAVRIX_EXPORT IndoorEntriesBubbleDrawDescriptor : public BubbleDrawDescrip
     visitor.Text("entries_text", entries_text);
   }
 
+  /// Number of the field "entries_value", read as atoi does: 0 when it begins with no number.
   std::int16_t entries_value = 0;
-  std::string entries_text;
+  std::string entries_text;  ///< Text of the field "entries_text".
 };
 
 }  // namespace kavrix

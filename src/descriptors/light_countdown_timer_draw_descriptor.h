@@ -9,7 +9,9 @@
 
 namespace kavrix {
 
-// The countdown of one traffic light.
+/// The countdown of one traffic light: `.lightCountdownBubble`, without a style.
+///
+/// Base members: `scene`, `direction` (after `@`), `mode_flag`, `is_force`.
 class KAVRIX_EXPORT LightCountdownTimerDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override;
@@ -22,12 +24,12 @@ class KAVRIX_EXPORT LightCountdownTimerDrawDescriptor : public BubbleDrawDescrip
     visitor.Text("text", text);
   }
 
-  std::string id;
-  std::int32_t style = 0;
-  std::int32_t light_type = 0;
-  std::int32_t turn_arrow_type = 0;
-  std::int32_t time = 0;  // time left
-  std::string text;
+  std::string id;                    ///< Identifier of the bubble: "id".
+  std::int32_t style = 0;            ///< Code of the drawing style: "style".
+  std::int32_t light_type = 0;       ///< Code of the light: "light_type".
+  std::int32_t turn_arrow_type = 0;  ///< Code of the turn arrow: "turn_arrow_type".
+  std::int32_t time = 0;             ///< Time left on the countdown: "time".
+  std::string text;                  ///< Text of the bubble: "text".
 };
 
 }  // namespace kavrix

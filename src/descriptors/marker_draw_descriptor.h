@@ -10,7 +10,10 @@
 
 namespace kavrix {
 
-// A map marker. The base's `content` is its image key.
+/// A map marker: `.marker`, without a style. MapResourceTransform::GetMarkerDrawDescriptor makes it.
+///
+/// Base members: `scene`, `content` (the key of the image: prefix, marker type's name in lower case, `_` and
+/// `name`), `lan`, `bubble_kind` (21), `direction`, `mode_flag`, `is_force` (always true).
 class KAVRIX_EXPORT MarkerDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override;
@@ -21,10 +24,10 @@ class KAVRIX_EXPORT MarkerDrawDescriptor : public BubbleDrawDescriptor {
     visitor.Flag("is_main_map", is_main_map);
   }
 
-  std::int16_t marker_type = 0;  // the value of a MarkerType
-  std::string name;
-  std::int32_t resource_id = 0;  // an id of the icon catalogue
-  bool is_main_map = false;
+  std::int16_t marker_type = 0;  ///< The value of a MarkerType, or any other: "marker_type".
+  std::string name;              ///< The marker's name: "name".
+  std::int32_t resource_id = 0;  ///< Id of the marker's icon, see kavrix::R: "resource_id".
+  bool is_main_map = false;      ///< The marker belongs to the main map: true when "is_main_map" is not 0.
 };
 
 }  // namespace kavrix

@@ -10,17 +10,21 @@
 
 namespace kavrix {
 
-// The countdowns of several traffic lights at once.
+/// The countdowns of several traffic lights at once: `.multiLightCountdownBubble`, without a style.
+///
+/// Base members: `scene`, `type` (KavrixContext::multi_light_type), `direction` (after `@`), `mode_flag`,
+/// `is_force`.
 class KAVRIX_EXPORT MultiLightCountdownTimerDrawDescriptor : public BubbleDrawDescriptor {
  public:
+  /// One light: an element of "light_descriptors", whatever its JSON type.
   struct OneLightCountdownTimerDrawDescriptor {
-    static constexpr std::int32_t kNoTurnArrow = -1;  // the value of a light without the key
+    static constexpr std::int32_t kNoTurnArrow = -1;  ///< The `turn_arrow_type` of a light without the key.
 
-    std::int32_t light_type = 0;
-    std::int32_t turn_arrow_type = kNoTurnArrow;
-    std::int32_t remain_time = 0;
-    std::string text;
-    std::int32_t total_time = 0;
+    std::int32_t light_type = 0;                  ///< Code of the light: "light_type".
+    std::int32_t turn_arrow_type = kNoTurnArrow;  ///< Code of the turn arrow: "turn_arrow_type".
+    std::int32_t remain_time = 0;                 ///< Time left on the countdown: "remain_time".
+    std::string text;                             ///< Text of the light: "text".
+    std::int32_t total_time = 0;                  ///< Total time of the countdown: "total_time".
   };
 
   const char* TypeName() const override;
@@ -41,9 +45,10 @@ class KAVRIX_EXPORT MultiLightCountdownTimerDrawDescriptor : public BubbleDrawDe
     visitor.EndList();
   }
 
-  std::int32_t style = 0;
-  std::string id;
-  bool is_animation = false;
+  std::int32_t style = 0;     ///< Code of the drawing style: "style".
+  std::string id;             ///< Identifier of the bubble: "id".
+  bool is_animation = false;  ///< The countdown is drawn animated: true when "is_animation" is 1.
+  /// The array "light_descriptors", in its order.
   std::vector<OneLightCountdownTimerDrawDescriptor> light_descriptors;
 };
 

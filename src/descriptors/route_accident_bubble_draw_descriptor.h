@@ -9,7 +9,9 @@
 
 namespace kavrix {
 
-// An accident on the route.
+/// An accident on the route: `.RouteAccidentBubble`, without a style.
+///
+/// Base members: `scene`, `content`, `lan`, `type`, `direction`, `mode_flag`, `is_force`.
 class KAVRIX_EXPORT RouteAccidentBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override;
@@ -18,12 +20,12 @@ class KAVRIX_EXPORT RouteAccidentBubbleDrawDescriptor : public BubbleDrawDescrip
     visitor.Integer("severity", severity);
   }
 
-  // Reads the members from the JSON object inside a whole resource name, prefix and marker included. False,
-  // and nothing read, when there is none.
+  /// Reads the members from the JSON object inside a whole resource name, prefix and marker included.
+  /// Returns false, with nothing read, when there is none.
   bool InitWithJson(const std::string& text);
 
-  std::string accident_id;    // identifier of the traffic event
-  std::int32_t severity = 0;  // 0: unknown; higher is worse
+  std::string accident_id;    ///< Identifier of the traffic event: "accident_id".
+  std::int32_t severity = 0;  ///< 0: unknown; higher is worse. "severity".
 };
 
 }  // namespace kavrix

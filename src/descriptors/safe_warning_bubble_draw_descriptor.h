@@ -9,7 +9,10 @@
 
 namespace kavrix {
 
-// A safety warning ahead, such as a school or a sharp bend.
+/// A safety warning ahead, such as a school or a sharp bend: `.SafeWarningBubble`, without a style.
+///
+/// Base members: `scene`, `content`, `lan`, `type`, `direction` (the number after `@`, else "direction"),
+/// `mode_flag`, `is_force`.
 class KAVRIX_EXPORT SafeWarningBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override;
@@ -18,11 +21,11 @@ class KAVRIX_EXPORT SafeWarningBubbleDrawDescriptor : public BubbleDrawDescripto
     visitor.Integer("distance", distance);
   }
 
-  // Reads the members from a JSON object. False, and nothing read, when `text` is not one.
+  /// Reads the members from a JSON object. Returns false, with nothing read, when `text` is not one.
   bool InitWithJson(const std::string& text);
 
-  std::int32_t category = 0;
-  std::int32_t distance = 0;  // to it, in metres
+  std::int32_t category = 0;  ///< Code of the warning: "category".
+  std::int32_t distance = 0;  ///< Distance to what is warned of, in metres: "distance".
 };
 
 }  // namespace kavrix

@@ -8,13 +8,17 @@
 
 namespace kavrix {
 
-// The next manoeuvre along the route.
+/// The next manoeuvre along the route: `.turnBubble`. Of the style record, `turn_style`, only the name is
+/// read.
+///
+/// Base members: `scene`, `lan`, `bubble_kind` (10), `type`, `direction`, `mode_flag`, `style_name`,
+/// `is_force`.
 class KAVRIX_EXPORT TurnArrowBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override;
   void VisitOwnMembers(MemberVisitor& visitor) const override { visitor.Integer("distance", distance); }
 
-  std::int32_t distance = 0;  // to the manoeuvre
+  std::int32_t distance = 0;  ///< Distance to the manoeuvre: "distance", as it stands.
 };
 
 }  // namespace kavrix

@@ -9,17 +9,19 @@
 
 namespace kavrix {
 
-// The notice that the car has left its route.
+/// The notice that the car has left its route: `.YawNoticeBubble`, without a style.
+///
+/// Base members: `scene`, `content`, `lan`, `type`, `direction`, `mode_flag`, `is_force`.
 class KAVRIX_EXPORT YawNoticeBubbleDrawDescriptor : public BubbleDrawDescriptor {
  public:
   const char* TypeName() const override;
   void VisitOwnMembers(MemberVisitor& visitor) const override { visitor.Integer("reason", reason); }
 
-  // Reads the members from the JSON object inside a whole resource name, prefix and marker included. False,
-  // and nothing read, when there is none.
+  /// Reads the members from the JSON object inside a whole resource name, prefix and marker included.
+  /// Returns false, with nothing read, when there is none.
   bool InitWithJson(const std::string& text);
 
-  std::int32_t reason = 0;  // why the route was left: a code of the guidance engine
+  std::int32_t reason = 0;  ///< Why the route was left, a code of the guidance engine: "reason".
 };
 
 }  // namespace kavrix

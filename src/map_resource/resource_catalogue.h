@@ -5,24 +5,28 @@
 #include <map>
 #include <string>
 
-// The built-in icons of the map. An icon's id has its category in bits 16 and up, 0 for day or 1 for night in
-// bits 8 to 15, and its number within the category in bits 0 to 7. Categories: 0x0 car icon, compass and
-// overview map; 0x1 route points, walking, indoor and traffic lights; 0x2 point traffic events; 0x3 road
-// warning signs.
-//
-// The maps have internal linkage: every source file that includes this header has its own. They are never
-// changed, and are built and destroyed with that file's static objects. Static constructors and destructors
-// of the same file may use them; those of another file that call into this one may run too early or too late.
+/// The built-in icons of the map. An icon's id has its category in bits 16 and up, 0 for day or 1 for night
+/// in bits 8 to 15, and its number within the category in bits 0 to 7. Categories: 0x0 car icon, compass and
+/// overview map; 0x1 route points, walking, indoor and traffic lights; 0x2 point traffic events; 0x3 road
+/// warning signs.
+///
+/// The maps have internal linkage: every source file that includes this header has its own. They are never
+/// changed, and are built and destroyed with that file's static objects. Static constructors and destructors
+/// of the same file may use them; those of another file that call into this one may run too early or too
+/// late.
 namespace kavrix::R {
 
+/// An icon of the catalogue.
 struct Icon {
-  std::uint32_t day_id;
-  const char* name;                  // the description less its "白天-" or "夜间-"
-  const char* night_name = nullptr;  // where the night description is spelled differently
+  std::uint32_t day_id;              ///< The id by day.
+  const char* name;                  ///< The description less its "白天-" or "夜间-".
+  const char* night_name = nullptr;  ///< The same where the night description is spelled differently.
 };
 
+/// The night id of an icon less its day id.
 constexpr std::uint32_t kNightIdOffset = 0x100;
 
+/// All icons, in the order of the catalogue.
 // clang-format off
 inline constexpr Icon kIcons[] = {
     {0x1, "鹰眼图车标罗盘"},
@@ -129,12 +133,14 @@ inline constexpr Icon kIcons[] = {
 };
 // clang-format on
 
+/// Returns what DayNightResourceMap holds.
 inline std::map<std::uint32_t, std::uint32_t> MakeDayNightResourceMap() {
   std::map<std::uint32_t, std::uint32_t> night_ids;
   for (const Icon& icon : kIcons) night_ids.emplace(icon.day_id, icon.day_id + kNightIdOffset);
   return night_ids;
 }
 
+/// Returns what ResourceID2DescriptionMap holds.
 inline std::map<std::uint32_t, std::string> MakeResourceID2DescriptionMap() {
   std::map<std::uint32_t, std::string> descriptions;
   for (const Icon& icon : kIcons) {
@@ -145,17 +151,18 @@ inline std::map<std::uint32_t, std::string> MakeResourceID2DescriptionMap() {
   return descriptions;
 }
 
-// The night id of every day id.
+/// The night id of every day id.
 static const std::map<std::uint32_t, std::uint32_t> DayNightResourceMap = MakeDayNightResourceMap();
 
-// The description of every id, day and night, in UTF-8. A few icons share a description.
+/// The description of every id, day and night, in UTF-8. A few icons share a description.
 static const std::map<std::uint32_t, std::string> ResourceID2DescriptionMap = MakeResourceID2DescriptionMap();
 
 }  // namespace kavrix::R
 
+/// Style constants of the bubble layer.
 namespace kavrix::Layer::Style {
 
-// The default font of bubbles: empty, which names none.
+/// The default font of bubbles: empty, which names none.
 static const std::string FONT_NAME;
 
 }  // namespace kavrix::Layer::Style
