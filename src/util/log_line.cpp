@@ -1,7 +1,5 @@
 #include "util/log_line.h"
 
-#include <string_view>
-
 #include "util/escape.h"
 
 namespace kavrix::logging {
@@ -18,6 +16,12 @@ void AppendField(std::string& line, std::string_view text) {
 }
 
 }  // namespace
+
+std::string EscapeLogText(std::string_view text) {
+  std::string escaped;
+  AppendEscaped(escaped, text);
+  return escaped;
+}
 
 std::string FormatLogLine(const LogRecord& record) {
   std::string line = record.level == LogLevel::kRoutine ? "routine " : "failure ";

@@ -132,6 +132,7 @@ Record::Record(LogLevel level, const char* function, unsigned long line, const c
       line_(line),
       file_(file),
       tag_(tag),
+      instance_id_(instance_id),
       instance_(Instances().Find(instance_id)) {
   // Most programs never change the global locale, and setting one costs a third of making the stream.
   if (Stream().getloc() != std::locale::classic()) Stream().imbue(std::locale::classic());
@@ -145,7 +146,7 @@ std::ostream& Record::Begin(const std::string& context_name) {
 Record::~Record() {
   if (instance_ == nullptr) return;
   try {
-    instance_->sink->Write({level_, tag_, function_, file_, line_, message_.text()});
+    instance_->sink->Write({level_, tag_, function_, file_, line_, message_.text(), instance_id_});
   } catch (...) {  // NOLINT(bugprone-empty-catch): a failing sink costs its log record, never the decode
   }
 }

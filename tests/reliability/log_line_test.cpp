@@ -59,6 +59,13 @@ TEST(LogLineTest, FieldsBeforeTheMessageHoldNoBlank) {
             R"(failure a\x20b\x20 \x20f\n x\x20y:1 m n)");
 }
 
+TEST(LogLineTest, TextIsEscapedAsAMessageIs) {
+  const std::string text("a \"b\"\0\n\\\xFF前", 12);
+  EXPECT_EQ(logging::EscapeLogText(text), R"(a "b"\u0000\n\\\xff前)");
+  EXPECT_EQ(logging::EscapeLogText(text), Shown(text));
+  EXPECT_EQ(logging::EscapeLogText(""), "");
+}
+
 TEST(LogLineTest, NoByteOfAMessageEndsTheLine) {
   for (int first = 0; first < 256; ++first) {
     for (int second = 0; second < 256; ++second) {

@@ -30,10 +30,12 @@ class CollectingSink : public logging::LogSink {
     files.emplace_back(record.file);
     lines.push_back(record.line);
     messages.push_back(record.message);
+    instance_ids.push_back(record.instance_id);
   }
   std::vector<int> levels;
   std::vector<std::string> tags, functions, files, messages;
   std::vector<unsigned long> lines;
+  std::vector<std::uint32_t> instance_ids;
 };
 
 struct Context {
@@ -238,6 +240,15 @@ TEST_F(TaggedLogTest, RecordIsDeliveredByItsDestructorAndNotBefore) {
   EXPECT_THAT(sink_->functions, ElementsAre("Function"));
   EXPECT_THAT(sink_->files, ElementsAre("file.cpp"));
   EXPECT_THAT(sink_->lines, ElementsAre(12U));
+}
+
+TEST_F(TaggedLogTest, RecordTellsTheInstanceThatItWasWrittenTo) {
+  SetLoggerInstance(kFirst, {sink_, LogLevel::kRoutine, {}});
+  SetLoggerInstance(kSecond, {sink_, LogLevel::kRoutine, {}});
+  speaker_.SayRoutine("a");
+  logging::kavrix_log_instance_id_ = kSecond;
+  speaker_.SayFailure("b");
+  EXPECT_THAT(sink_->instance_ids, ElementsAre(kFirst, kSecond));
 }
 
 TEST_F(TaggedLogTest, ExceptionFromTheMessageReachesTheCaller) {
