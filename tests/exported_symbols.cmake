@@ -20,12 +20,13 @@ list(TRANSFORM classes REPLACE "^KAVRIX_EXPORT ([A-Za-z]+).*" "\\1")
 
 # A client that derives from a class with virtual functions, casts to it or catches it needs its vtable and its typeinfo.
 set(polymorphic_classes "")
+set(client_classes PlogInstance PlogSink TaggedRecord) # compiled by the client
 string(REGEX REPLACE "\n(class|struct) (KAVRIX_EXPORT )?" ";" parts "${text}")
 foreach(part IN LISTS parts)
   string(REGEX REPLACE "\n}\\$.*" "" body "${part}")
   string(REGEX MATCH "^[A-Za-z]+" class "${body}")
-  if(body MATCHES "^[A-Za-z]+ : (public|private) |^[A-Za-z]+ [^$]*{.*[ \n]virtual " AND NOT class STREQUAL "PlogSink")
-    list(APPEND polymorphic_classes ${class}) # PlogSink is compiled by the client
+  if(body MATCHES "^[A-Za-z]+ : (public|private) |^[A-Za-z]+ [^$]*{.*[ \n]virtual " AND NOT class IN_LIST client_classes)
+    list(APPEND polymorphic_classes ${class})
   endif()
 endforeach()
 

@@ -1,16 +1,6 @@
 #ifndef KAVRIX_TESTS_PLOG_VERSIONS_FIVE_ARGUMENTS_PLOG_LOGGER_H_
 #define KAVRIX_TESTS_PLOG_VERSIONS_FIVE_ARGUMENTS_PLOG_LOGGER_H_
 
-#include <plog/Record.h>
-
-namespace plog {
-
-class IAppender {
- public:
-  virtual ~IAppender() = default;
-  virtual void write(const Record& record) = 0;
-};
-
-}  // namespace plog
+#include "tests/plog_versions/common_logger.h"
 
 #endif  // KAVRIX_TESTS_PLOG_VERSIONS_FIVE_ARGUMENTS_PLOG_LOGGER_H_

@@ -17,6 +17,8 @@ class Record {
     return *this;
   }
 
+  virtual const util::Time& getTime() const { return kTimeOfRecords; }
+  virtual unsigned int getTid() const { return kThreadOfRecords; }
   virtual Severity getSeverity() const { return severity_; }
   virtual const void* getObject() const { return object_; }
   virtual std::size_t getLine() const { return line_; }
@@ -28,7 +30,6 @@ class Record {
   const Severity severity_;
   const std::size_t line_;
   const void* const object_;
-
   RecordTexts texts_;
 };
 

@@ -22,6 +22,8 @@ class Record {
     return *this;
   }
 
+  virtual const util::Time& getTime() const { return kTimeOfRecords; }
+  virtual unsigned int getTid() const { return kThreadOfRecords; }
   virtual Severity getSeverity() const { return severity_; }
   virtual const void* getObject() const { return object_; }
   virtual std::size_t getLine() const { return line_; }
