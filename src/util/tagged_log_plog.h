@@ -201,6 +201,40 @@ class TaggedTxtFormatter {
   static void AppendThread(std::ostream&, const PlogRecord&, long) {}
 };
 
+/// The client's plog logger of an id, as an appender. Looks it up for each record, and drops the record when
+/// there is none: the library may still log when static objects are destroyed, after the logger was.
+template <int plog_instance_id>
+class PlogInstance : public plog::IAppender {
+ public:
+  /// Writes the record to the logger, which filters by its own severity.
+  void write(const plog::Record& record) override {
+    if (auto* const logger = plog::get<plog_instance_id>()) logger->write(record);
+  }
+};
+
+/// Joins the library to the client's plog logger of that id: installs it as the library's instance of the
+/// same id, in place of an earlier one, and sets kavrix_log_instance_id_ to it. Returns false and changes
+/// nothing when plog has no such logger yet: call plog::init first.
+///
+/// Every level and tag is handed on, and the logger drops what its severity at that time does not take. To
+/// filter by tag, or to save the building of what plog drops, install a PlogSink with SetLoggerInstance
+/// instead. The logger may be destroyed at any time that no other thread decodes; its appenders must outlive
+/// it, and lock themselves if several threads decode. `SetLoggerInstance(plog_instance_id, {})` leaves plog
+/// again.
+///
+/// Call it where the logger lives: plog::get finds no logger of another shared library whose symbols are
+/// hidden.
+template <int plog_instance_id = 0>
+bool JoinPlog(PlogOptions options = {}) {
+  static_assert(plog_instance_id >= 0, "the library's instance ids are not negative");
+  if (plog::get<plog_instance_id>() == nullptr) return false;
+  auto logger = std::make_shared<PlogInstance<plog_instance_id>>();
+  SetLoggerInstance(plog_instance_id,
+                    {std::make_shared<PlogSink>(std::move(logger), options), LogLevel::kRoutine, {}});
+  kavrix_log_instance_id_ = plog_instance_id;
+  return true;
+}
+
 }  // namespace kavrix::logging
 
 #endif  // KAVRIX_UTIL_TAGGED_LOG_PLOG_H_

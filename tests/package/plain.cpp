@@ -41,8 +41,34 @@ void CountFailures() {
   SetLoggerInstance(kavrix_log_instance_id_, {std::make_shared<CountingSink>(), LogLevel::kFailure, {}});
 }
 constexpr int kExpectedFailures = 2;
+
+// Counts the lines that show their tag.
+class LineCounter : public plog::IAppender {
+ public:
+  void write(const plog::Record& record) override {
+    const auto* const tagged = kavrix::logging::TaggedRecord::Of(record);
+    if (tagged == nullptr) return;
+    const std::string line = kavrix::logging::TaggedTxtFormatter::format(record);
+    if (line.find("[" + tagged->tag() + "] ") != std::string::npos) ++lines;
+  }
+  int lines = 0;
+};
+
+bool JoinsPlog() {
+  const std::uint32_t earlier = kavrix::logging::kavrix_log_instance_id_;
+  LineCounter counter;
+  plog::Logger<3> logger;
+  logger.setMaxSeverity(plog::info);
+  logger.addAppender(&counter);
+  const bool joined = kavrix::logging::JoinPlog<3>();
+  kavrix::MapResourceTransform transform(std::make_shared<kavrix::KavrixContext>("plain"));
+  Decode(transform, "kavrix://resource/unknown");
+  kavrix::logging::kavrix_log_instance_id_ = earlier;
+  return joined && counter.lines == 2;
+}
 #else
 void CountFailures() {}
+bool JoinsPlog() { return kavrix::logging::JoinPlog<3>() == false; }
 constexpr int kExpectedFailures = 0;
 #endif
 
@@ -61,5 +87,5 @@ int main() {
   kavrix::TrafficDrawDescriptor own;
   const bool has_rtti = IsTrafficByRtti(own) && IsTrafficByRtti(*traffic);
   const bool survives = survives_failures && failures == kExpectedFailures;
-  return decodes && survives && has_rtti && CatchesTheException(DecodeTooShort) ? 0 : 1;
+  return decodes && survives && has_rtti && JoinsPlog() && CatchesTheException(DecodeTooShort) ? 0 : 1;
 }
