@@ -5,17 +5,21 @@
 
 class Appender : public plog::IAppender {
  public:
-  void write(const plog::Record& record) override { std::cout << record.getMessage() << '\n'; }
+  void write(const plog::Record& record) override {
+    const auto* tagged = kavrix::logging::TaggedRecord::Of(record);  // null: a record of the client's own
+    if (tagged != nullptr) std::cout << '[' << tagged->tag() << "] ";
+    std::cout << record.getMessage() << '\n';
+  }
 };
 
 int main() {
-  Appender appender;  // or any of plog's own, or a plog::Logger
-  kavrix::logging::LoggerInstance instance;
-  instance.sink = std::make_shared<kavrix::logging::PlogSink>(appender);
-  kavrix::logging::SetLoggerInstance(kavrix::logging::kavrix_log_instance_id_, instance);
+  Appender appender;       // or any of plog's own
+  plog::Logger<0> logger;  // plog::init makes such a one
+  logger.setMaxSeverity(plog::info);
+  logger.addAppender(&appender);
+  kavrix::logging::JoinPlog<0>();
 
   kavrix::MapResourceTransform transform(std::make_shared<kavrix::KavrixContext>("main-map"));
   std::shared_ptr<kavrix::BubbleDrawDescriptor> out;
   transform.GetBubbleDrawDescriptor("kavrix://resource/{}.viaCircleBubble", out);
-  kavrix::logging::SetLoggerInstance(kavrix::logging::kavrix_log_instance_id_, {});
 }
