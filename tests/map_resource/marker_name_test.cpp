@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "tests/support/decode_test.h"
+#include "tests/support/global_locale.h"
 
 namespace kavrix::test {
 namespace {
@@ -205,7 +206,10 @@ TEST_F(MarkerNameTest, ParsedObjectGivesTheMarkerThatItsNameGives) {
         R"({"name":["x"],"lan":null,"is_main_map":true,"other":{"name":"deep"},"":0})",
         R"({/**/"name":"a comment","marker_type":3})", R"({"n\u0061me":"an escaped key"})"}) {
     Json::Value root;
-    std::istringstream(payload) >> root;
+    {
+      const ClassicLocale classic;
+      std::istringstream(payload) >> root;
+    }
     MapResourceTransform::ParseMarkerResourceName(root, out_);
     const auto from_value = out_;
     DecodeMarkerWhole(MapResourceManager::kavrix_resource_prefix + payload + ".marker");

@@ -1,6 +1,7 @@
 #include "util/json_number.h"
 
 #include <gtest/gtest.h>
+#include <locale.h>  // newlocale
 
 #include <cmath>
 #include <cstdlib>
@@ -53,8 +54,8 @@ TEST(NearestFloatTest, SmallestFloatsAndSignsOfZero) {
   EXPECT_FALSE(std::signbit(JsonUtil::NearestFloat("0.0")));
 }
 
-// The tests run in the C locale, where the C library reads the decimal point.
 TEST(NearestFloatTest, IsWhatTheCLibraryReadsWithTheDecimalPoint) {
+  const locale_t classic = newlocale(LC_ALL_MASK, "C", nullptr);
   const unsigned seed = Seed();
   std::mt19937 random(seed);
   const auto draw = [&](int most) { return std::uniform_int_distribution<int>(0, most)(random); };
@@ -62,10 +63,11 @@ TEST(NearestFloatTest, IsWhatTheCLibraryReadsWithTheDecimalPoint) {
     std::string number = std::to_string(1 + draw(8)) + ".";
     for (int digits = 1 + draw(20); digits > 0; --digits) number += static_cast<char>('0' + draw(9));
     if (draw(3) > 0) number += "e" + std::to_string(draw(90) - 48);
-    const float expected = std::strtof(number.c_str(), nullptr);
+    const float expected = strtof_l(number.c_str(), nullptr, classic);
     EXPECT_EQ(JsonUtil::NearestFloat(number), expected) << number << ", " << HowToRepeat(seed);
-    EXPECT_EQ(JsonUtil::NearestDouble(number), std::strtod(number.c_str(), nullptr)) << number;
+    EXPECT_EQ(JsonUtil::NearestDouble(number), strtod_l(number.c_str(), nullptr, classic)) << number;
   }
+  freelocale(classic);
 }
 
 }  // namespace

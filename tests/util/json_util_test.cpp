@@ -7,6 +7,8 @@
 #include <sstream>
 #include <type_traits>
 
+#include "tests/support/global_locale.h"
+
 namespace kavrix::test {
 namespace {
 
@@ -16,6 +18,7 @@ static_assert(
     std::is_same_v<decltype(&JsonUtil::IntValue), int (*)(const Json::Value&, const std::string&, int)>);
 
 Json::Value Object(const std::string& text) {
+  const ClassicLocale classic;
   Json::Value root;
   std::istringstream(text) >> root;
   return root;
