@@ -10,9 +10,9 @@
 #include <memory>
 #include <vector>
 
-#include "map_resource/map_resource_manager.h"
 #include "map_resource/map_resource_transform.h"
 #include "tests/reliability/allocation/malloc_control.h"
+#include "tests/support/hostile_shapes.h"
 #include "util/tagged_log.h"
 
 namespace kavrix::test {
@@ -20,44 +20,6 @@ namespace {
 
 // The most memory that a decode may take, in multiples of the name's length.
 constexpr double kMostMultiple = 256;
-
-// The parts of a long name: `head`, many copies of `piece`, `tail`.
-struct Shape {
-  const char* what;
-  std::string head;
-  std::string piece;
-  std::string tail;
-};
-
-const std::vector<Shape> kShapes = {
-    {"one long text", R"({"content":")", "x", R"("}.trafficBubble)"},
-    {"escapes in a text", R"({"content":")", R"(\u4e2d)", R"("}.trafficBubble)"},
-    {"a text that never ends", R"({"content":")", "x", ".trafficBubble"},
-    {"numbers", R"({"k":[0)", ",0", "]}.trafficBubble"},
-    {"numbers that never end", R"({"k":[0)", ",0", ".trafficBubble"},
-    {"empty texts", R"({"k":[0)", R"(,"")", "]}.trafficBubble"},
-    {"empty arrays", R"({"k":[0)", ",[]", "]}.trafficBubble"},
-    {"empty objects", R"({"k":[0)", ",{}", "]}.trafficBubble"},
-    {"arrays in arrays", R"({"k":[0)", ",[[[[[[[[[[[[[[[[]]]]]]]]]]]]]]]]", "]}.trafficBubble"},
-    {"objects of one key", R"({"k":[0)", R"(,{"":0})", "]}.trafficBubble"},
-    {"comments", R"({"k":0)", "/**/", "}.trafficBubble"},
-    {"errors", R"({"k":)", "#", "}.trafficBubble"},
-    {"brackets", R"({"k":)", "[", "}.trafficBubble"},
-    {"cameras", R"({"cameras":[0)", ",0", "]}.cameraBubble"},
-    {"lights", R"({"light_descriptors":[0)", ",0", "]}@1.multiLightCountdownBubble"},
-    {"lines", R"({"second_content":[0)", R"(,"")", "]}.routeExplainBubble"},
-    {"separators", "", "_", "@1.hdLongSolidBubble"},
-    {"a long field", "", "x", "_0_x_0@1.etaBubble"},
-    {"no marker", "", ".x", ""},
-    {"almost markers", "", ".trafficBubbl", ""},
-};
-
-std::string NameOf(const Shape& shape, std::size_t length) {
-  std::string name = MapResourceManager::kavrix_resource_prefix + shape.head;
-  name.reserve(length + 100);
-  while (name.size() < length) name += shape.piece;
-  return name + shape.tail;
-}
 
 // Drops the records.
 class NoSink : public logging::LogSink {
@@ -93,7 +55,7 @@ class MemoryTest : public ::testing::TestWithParam<bool> {
 };
 
 // Tries lengths over one doubling, because memory that grows by doubling peaks somewhere within it.
-double WorstMultiple(const Shape& shape) {
+double WorstMultiple(const HostileShape& shape) {
   double worst = 0;
   for (double length = 100'000; length < 200'000; length *= 1.05) {
     worst = std::max(worst, CostOf(NameOf(shape, static_cast<std::size_t>(length))).multiple);
@@ -103,7 +65,7 @@ double WorstMultiple(const Shape& shape) {
 
 TEST_P(MemoryTest, OfADecodeIsBoundedByAMultipleOfTheName) {
   std::cout << "                          bytes a byte   ms of 1 MB   ms of 2 MB\n";
-  for (const Shape& shape : kShapes) {
+  for (const HostileShape& shape : HostileShapes()) {
     const Cost one = CostOf(NameOf(shape, 1'000'000));
     const Cost two = CostOf(NameOf(shape, 2'000'000));
     const double worst = std::max({WorstMultiple(shape), one.multiple, two.multiple});

@@ -1,0 +1,40 @@
+# Counts the instructions that names made to cost much take to decode, and limits them: by the byte, as a multiple of what
+# a typical name takes. Instructions, not time: a busy machine changes nothing. `cmake -P` runs it, with PROGRAM, VALGRIND and
+# FOLDER.
+cmake_minimum_required(VERSION 3.22)
+set(most_multiple 100)
+
+file(REMOVE_RECURSE ${FOLDER})
+file(MAKE_DIRECTORY ${FOLDER})
+execute_process(COMMAND ${VALGRIND} --tool=callgrind --callgrind-out-file=${FOLDER}/counts ${PROGRAM}
+                OUTPUT_VARIABLE output ERROR_VARIABLE output RESULT_VARIABLE status)
+if(NOT status EQUAL 0)
+  message(FATAL_ERROR "callgrind failed:\n${output}")
+endif()
+
+set(shapes 0)
+file(GLOB dumps ${FOLDER}/counts.*)
+list(SORT dumps COMPARE NATURAL)
+foreach(dump IN LISTS dumps)
+  file(STRINGS ${dump} lines REGEX "^(desc: Trigger: Client Request: |summary: )")
+  if(NOT "${lines}" MATCHES "Client Request: ([0-9]+) ([^;]+).*summary: ([0-9]+)")
+    continue() # the rest of the process
+  endif()
+  set(bytes ${CMAKE_MATCH_1})
+  set(what ${CMAKE_MATCH_2})
+  math(EXPR per_byte "${CMAKE_MATCH_3} / ${bytes}")
+  if(what STREQUAL "typical")
+    set(typical ${per_byte})
+    message("instructions a byte, and that as a multiple of a typical name's ${typical}:")
+    continue()
+  endif()
+  math(EXPR shapes "${shapes} + 1")
+  math(EXPR multiple "${per_byte} / ${typical}")
+  message("  ${what}: ${per_byte}, ${multiple}")
+  if(NOT multiple LESS most_multiple)
+    message(SEND_ERROR "${what} takes ${per_byte} instructions a byte, ${most_multiple} times a typical name's or more")
+  endif()
+endforeach()
+if(shapes LESS 30)
+  message(FATAL_ERROR "only ${shapes} shapes were counted")
+endif()
