@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <future>
 #include <string>
 #include <thread>
 
@@ -146,6 +147,44 @@ TEST(TaggedLogPlogRecordTest, SinkKeepsAnAppenderAlive) {
     EXPECT_THAT(watched.lock()->messages, ElementsAre("[Tag] m"));
   }
   EXPECT_TRUE(watched.expired());
+}
+
+// Has the first record until the second has begun, and passes the second on when the thread of the first
+// ended.
+class OverlappingAppender : public plog::IAppender {
+ public:
+  explicit OverlappingAppender(RecordKeeper& keeper) : keeper_(keeper) {}
+
+  void write(const plog::Record& record) override {
+    if (std::this_thread::get_id() == first.get_id()) {
+      first_began.set_value();
+      second_began.get_future().wait();
+    } else {
+      second_began.set_value();
+      first.join();
+    }
+    keeper_.write(record);
+  }
+
+  std::thread first;
+  std::promise<void> may_begin, first_began, second_began;
+
+ private:
+  RecordKeeper& keeper_;
+};
+
+TEST(TaggedLogPlogRecordTest, RecordIsFoundAfterOneOfAnotherThreadEnded) {
+  RecordKeeper keeper;
+  OverlappingAppender appender(keeper);
+  PlogSink sink(appender);
+  appender.first = std::thread([&] {
+    appender.may_begin.get_future().wait();  // `first` is set
+    WriteLibraryRecord(sink, "First", "m");
+  });
+  appender.may_begin.set_value();
+  appender.first_began.get_future().wait();
+  WriteLibraryRecord(sink, "Second", "m");
+  EXPECT_THAT(keeper.tags, ElementsAre("First", "Second"));
 }
 
 TEST(TaggedLogPlogRecordTest, ThreadsKeepTheirTagsApart) {
