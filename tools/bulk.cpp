@@ -45,7 +45,7 @@ NameResult ResultOf(const std::function<std::string()>& work) {
 
 void AddJobs(Command& command, BulkOptions& options) {
   constexpr int kMostJobs = 256;
-  command.Integer("--jobs", options.jobs, 1, kMostJobs, "Number of threads that work");
+  command.Integer("--jobs N", options.jobs, 1, kMostJobs, "Number of threads that work");
 }
 
 void AddBulkOptions(Command& command, BulkOptions& options) {
@@ -54,7 +54,7 @@ void AddBulkOptions(Command& command, BulkOptions& options) {
 }
 
 void AddInputOption(Command& command, BulkOptions& options, const std::string& what) {
-  command.Text("--input", options.input,
+  command.Text("--input FILE", options.input,
                "File to read " + what + " from, one a line, instead of standard input (\"-\")");
 }
 

@@ -63,12 +63,13 @@ CommandDescription CheckCommand() {
     AddNameOptions(command, options->names);
     command.Choice("--format", options->format, {"text", "json"},
                    "Output format: text, one problem a line, or json, one name with problems a line");
-    command.Footer(
+    command.Details(
         "A problem is INPUT:NUMBER:BYTE: severity: message [code]. INPUT is the file, \"-\" for standard "
         "input,\n"
         "or \"argument\"; NUMBER the name's, from 1; BYTE its first byte, from 0, ? where JsonCpp had to\n"
-        "read the payload and the place is not known.\n"
-        "Exit status: 0 no problem; 1 a name has problems; 2 usage, input or output error.");
+        "read the payload and the place is not known.");
+    command.ExitStatus("0 no problem; 1 a name has problems; 2 usage, input or output error.");
+    command.Example("kavrix-resource check --input names.txt");
     return [options] { return Run(*options); };
   };
   return {"check", "Show what is wrong with resource names; silent when nothing is", list_options};

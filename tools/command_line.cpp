@@ -1,5 +1,7 @@
 #include "tools/command_line.h"
 
+#include <fmt/format.h>
+
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
@@ -14,6 +16,24 @@ namespace kavrix::tools {
 namespace {
 
 constexpr int kUsageTrouble = 2;
+
+const OptionHelp kHelpOption = {"--help", "", "Print this help and exit", {}};
+const OptionHelp kVersionOption = {"--version", "", "Print the version and exit", {}};
+
+// Takes an option such as "--config FILE" apart.
+const OptionHelp& AddOption(CommandHelp& command, const std::string& option, const std::string& help,
+                            const Words& words = {}) {
+  const std::size_t end = std::min(option.find(' '), option.size());
+  const std::string value = option.substr(std::min(end + 1, option.size()));
+  return command.options.emplace_back(OptionHelp{option.substr(0, end), value, help, words});
+}
+
+std::string FooterOf(const CommandHelp& command) {
+  std::string footer = command.details.empty() ? "" : command.details + '\n';
+  footer += "Exit status: " + command.exit_status;
+  for (const std::string& example : command.examples) footer += "\nExample: " + example;
+  return footer;
+}
 
 int ReportUsageError(const std::exception& error, const std::string& hint = "") {
   WriteErrorLine(error.what() + hint);
@@ -30,8 +50,7 @@ const CLI::App* CalledCommand(const CLI::App& app, int argc, const char* const* 
     if (command->get_name() == argv[1]) return command;
     names.push_back(command->get_name());
   }
-  throw UsageError(std::string("no command is called \"") + Excerpt(argv[1]) + "\"" +
-                   DidYouMean(argv[1], names));
+  throw UnknownCommand(argv[1], names);
 }
 
 // Names the option that an argument was probably meant to be.
@@ -88,42 +107,101 @@ void UnmarkNames(CLI::App& command) {
 
 }  // namespace
 
-void Command::Arguments(const std::string& name, std::vector<std::string>& values, const std::string& help) {
-  app_.add_option(name, values, help);
+void Command::Arguments(const std::string& value_name, std::vector<std::string>& values,
+                        const std::string& help, const Words& words) {
+  app_.add_option(value_name, values, help)->type_name("");
+  help_.arguments = OptionHelp{"", value_name, help, words};
 }
 
-void Command::Text(const std::string& option, std::optional<std::string>& value, const std::string& help) {
-  app_.add_option(option, value, help);
+void Command::Text(const std::string& option, std::optional<std::string>& value, const std::string& help,
+                   const Words& words) {
+  const OptionHelp& added = AddOption(help_, option, help, words);
+  app_.add_option(added.name, value, help)->type_name(added.value);
 }
 
 void Command::Texts(const std::string& option, std::vector<std::string>& values, const std::string& help) {
-  app_.add_option(option, values, help)->expected(1)->take_all();
+  const OptionHelp& added = AddOption(help_, option, help);
+  app_.add_option(added.name, values, help)->type_name(added.value)->expected(1)->take_all();
 }
 
 void Command::Integer(const std::string& option, int& value, int least, int most, const std::string& help) {
-  app_.add_option(option, value, help)->check(CLI::Range(least, most));
+  const std::string range =
+      ", " + std::to_string(least) + " to " + std::to_string(most) + "; by default " + std::to_string(value);
+  const OptionHelp& added = AddOption(help_, option, help + range);
+  app_.add_option(added.name, value, added.help)
+      ->type_name(added.value)
+      ->check(CLI::Range(least, most).description(""));
 }
 
-void Command::Choice(const std::string& option, std::string& value, const std::vector<std::string>& choices,
+void Command::Choice(const std::string& option, std::string& value, const Words& choices,
                      const std::string& help) {
-  app_.add_option(option, value, help)->check(CLI::IsMember(choices));
+  const OptionHelp& added =
+      AddOption(help_, fmt::format("{} {}", option, fmt::join(choices, "|")), help, choices);
+  app_.add_option(added.name, value, help)
+      ->type_name(added.value)
+      ->check(CLI::IsMember(choices).description(""));
 }
 
 void Command::Flag(const std::string& option, bool& value, const std::string& help) {
+  AddOption(help_, option, help);
   app_.add_flag(option, value, help);
 }
 
-void Command::Footer(const std::string& text) { app_.footer(text); }
+void Command::Details(const std::string& text) { help_.details = text; }
 
-int RunCommandLine(const std::vector<CommandDescription>& commands, int argc, const char* const* argv) {
-  CLI::App app("Decodes, explains and builds the resource names of map bubbles.", "kavrix-resource");
-  app.set_version_flag("--version", "kavrix-resource " KAVRIX_VERSION);
+void Command::ExitStatus(const std::string& text) { help_.exit_status = text; }
+
+void Command::Example(const std::string& shell_command) { help_.examples.push_back(shell_command); }
+
+UsageError UnknownCommand(const std::string& name, const Words& commands) {
+  return UsageError("no command is called \"" + Excerpt(name) + '"' + DidYouMean(name, commands));
+}
+
+Words NamesOf(const Commands& commands) {
+  Words names;
+  for (const CommandDescription& command : commands) names.emplace_back(command.name);
+  return names;
+}
+
+CommandHelp DescribeTool() {
+  CommandHelp tool;
+  tool.help = "Decode, explain and build the resource names of map bubbles";
+  tool.options = {kHelpOption, kVersionOption};
+  tool.details = "Data goes to standard output, everything else to standard error.";
+  tool.exit_status =
+      "0 success; 1 a name, bubble or query failed, or check or compare found something;\n"
+      "2 usage, input or output error; 141 the reader of the output went away.";
+  return tool;
+}
+
+std::vector<CommandHelp> DescribeCommands(const Commands& commands) {
+  std::vector<CommandHelp> described;
+  for (const CommandDescription& description : commands) {
+    CLI::App app;
+    CommandHelp& help = described.emplace_back();
+    help.name = description.name;
+    help.help = description.help;
+    help.options.push_back(kHelpOption);
+    Command command(app, help);
+    description.options(command);
+  }
+  return described;
+}
+
+int RunCommandLine(const Commands& commands, int argc, const char* const* argv) {
+  const CommandHelp tool = DescribeTool();
+  CLI::App app(tool.help, "kavrix-resource");
+  app.footer(FooterOf(tool));
+  app.set_help_flag("-h," + kHelpOption.name, kHelpOption.help);
+  app.set_version_flag(kVersionOption.name, "kavrix-resource " KAVRIX_VERSION, kVersionOption.help);
   app.require_subcommand(1);
   std::function<int()> called;
   for (const CommandDescription& description : commands) {
     CLI::App* const subcommand = app.add_subcommand(description.name, description.help);
-    Command command(*subcommand);
+    CommandHelp help;
+    Command command(*subcommand, help);
     const std::function<int()> run = description.options(command);
+    subcommand->footer(FooterOf(help));
     subcommand->callback([&called, run] { called = run; });
     UnmarkNames(*subcommand);
   }

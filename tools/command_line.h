@@ -21,24 +21,50 @@ class UsageError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+using Words = std::vector<std::string>;
+
+// What the help text, the manual page and the completion tell of an option or of the arguments.
+struct OptionHelp {
+  std::string name;   // "--config", or "" for the arguments
+  std::string value;  // what it takes, such as "FILE" for a path; empty for a flag
+  std::string help;
+  Words words;  // to complete the value with
+};
+
+// What they tell of a command, or of the tool itself.
+struct CommandHelp {
+  std::string name;
+  std::string help;
+  std::optional<OptionHelp> arguments;
+  std::vector<OptionHelp> options;
+  std::string details;
+  std::string exit_status;
+  std::vector<std::string> examples;  // shell commands
+};
+
 // One command while its options are listed, in the order of its help text. Each option fills a variable,
-// which must outlive the parse.
+// which must outlive the parse. An option that takes a value is given with its name: "--config FILE".
 class Command {
  public:
-  explicit Command(CLI::App& app) : app_(app) {}
+  Command(CLI::App& app, CommandHelp& help) : app_(app), help_(help) {}
 
-  void Arguments(const std::string& name, std::vector<std::string>& values, const std::string& help);
-  void Text(const std::string& option, std::optional<std::string>& value, const std::string& help);
+  void Arguments(const std::string& value_name, std::vector<std::string>& values, const std::string& help,
+                 const Words& words = {});
+  void Text(const std::string& option, std::optional<std::string>& value, const std::string& help,
+            const Words& words = {});
   // An option that may be given more than once.
   void Texts(const std::string& option, std::vector<std::string>& values, const std::string& help);
+  // `value` holds the default.
   void Integer(const std::string& option, int& value, int least, int most, const std::string& help);
-  void Choice(const std::string& option, std::string& value, const std::vector<std::string>& choices,
-              const std::string& help);
+  void Choice(const std::string& option, std::string& value, const Words& choices, const std::string& help);
   void Flag(const std::string& option, bool& value, const std::string& help);
-  void Footer(const std::string& text);
+  void Details(const std::string& text);
+  void ExitStatus(const std::string& text);
+  void Example(const std::string& shell_command);
 
  private:
   CLI::App& app_;
+  CommandHelp& help_;
 };
 
 // A command by its name, such as "decode". `options` lists the options and returns what the command does when
@@ -49,9 +75,21 @@ struct CommandDescription {
   std::function<std::function<int()>(Command&)> options;
 };
 
+using Commands = std::vector<CommandDescription>;
+
+Words NamesOf(const Commands& commands);
+
+// Names the nearest of the commands.
+UsageError UnknownCommand(const std::string& name, const Words& commands);
+
+// Describes the tool without a command: its name is empty.
+CommandHelp DescribeTool();
+
+std::vector<CommandHelp> DescribeCommands(const Commands& commands);
+
 // Parses the arguments and runs the command that they call. Help and version go to standard output. Returns
 // the exit status: 2 for arguments that no command takes, with a message on standard error.
-int RunCommandLine(const std::vector<CommandDescription>& commands, int argc, const char* const* argv);
+int RunCommandLine(const Commands& commands, int argc, const char* const* argv);
 
 }  // namespace kavrix::tools
 

@@ -194,7 +194,7 @@ CommandDescription CompareCommand() {
     AddNameOptionsBesidesConfig(
         command, options->names,
         "Two resource names, or those to compare under two configurations, or two files");
-    command.Texts("--config", options->config_paths,
+    command.Texts("--config FILE", options->config_paths,
                   "Configuration file; given twice, names are compared under both, the old one first");
     AddFormatOption(command, options->format, {"text", "json"});
     command.Flag(
@@ -202,12 +202,13 @@ CommandDescription CompareCommand() {
         "The two arguments are files with the output of \"decode --format json\", the old one first");
     command.Flag("--summary", options->summary,
                  "Print one line for each kind, member, old and new value, with the number of names");
-    command.Footer(
+    command.Details(
         "Shows what differs between two names, between the same names under two configurations (then they "
         "may\n"
         "come from --input or standard input), or between two files. Log records are not compared, and\n"
-        "bytes that are not UTF-8 are alike in files. --summary prints JSON in either format.\n"
-        "Exit status: 0 nothing differs; 1 something does; 2 usage, input or output error.");
+        "bytes that are not UTF-8 are alike in files. --summary prints JSON in either format.");
+    command.ExitStatus("0 nothing differs; 1 something does; 2 usage, input or output error.");
+    command.Example("kavrix-resource compare --config old.json --config new.json --summary < names.txt");
     return [options] { return Run(*options); };
   };
   return {"compare", "Compare two names, two configurations or two outputs of decode", list_options};

@@ -49,11 +49,12 @@ CommandDescription ConfigCommand() {
   const auto list_options = [](Command& command) -> std::function<int()> {
     const auto options = std::make_shared<ConfigOptions>();
     command.Flag("--default", options->prints_default, "Print the built-in configuration");
-    command.Text("--check", options->checked_path,
+    command.Text("--check FILE", options->checked_path,
                  "Configuration file to check, \"-\" for standard input; silent when it can be used");
-    command.Footer(
-        "\"kavrix-resource schema config\" describes the file.\n"
-        "Exit status: 0 success; 1 the configuration is wrong; 2 usage, input or output error.");
+    command.Details("\"kavrix-resource schema config\" describes the file.");
+    command.ExitStatus("0 success; 1 the configuration is wrong; 2 usage, input or output error.");
+    command.Example("kavrix-resource config --default > my.json");
+    command.Example("kavrix-resource config --check my.json");
     return [options] { return Run(*options); };
   };
   return {"config", "Print the built-in configuration, or check a configuration file", list_options};

@@ -65,10 +65,12 @@ CommandDescription DecodeCommand() {
     AddFormatOption(command, options->format, {"text", "json"});
     command.Flag("--fields", options->fields, "Print the fields of each name as JSON that encode reads");
     command.Flag("--all", options->all_members, "In text format, also show members that hold their defaults");
-    command.Footer(
-        "Exit status: 0 every name decoded; 1 a name failed (no marker, a payload that does not parse,\n"
-        "an exception); 2 usage, input or output error. A failed name does not stop the others.\n"
-        "Put \"--\" before a name that begins with a dash.");
+    command.Details("Put \"--\" before a name that begins with a dash.");
+    command.ExitStatus(
+        "0 every name decoded; 1 a name failed (no marker, a payload that does not parse,\n"
+        "an exception); 2 usage, input or output error. A failed name does not stop the others.");
+    command.Example("kavrix-resource decode 'kavrix://resource/Main St_0@12.labelBubble'");
+    command.Example("kavrix-resource decode --input names.txt > descriptors.jsonl");
     return [options] { return Run(*options); };
   };
   return {"decode", "Decode resource names; show descriptors, styles and log records", list_options};

@@ -49,11 +49,12 @@ CommandDescription DrawCommand() {
   const auto list_options = [](Command& command) -> std::function<int()> {
     const auto options = std::make_shared<NameOptions>();
     AddDrawnNameOptions(command, *options, "One resource name; without it, read from standard input");
-    command.Footer(
+    command.Details(
         "Prints one SVG. The picture is schematic: it shows what a descriptor says, not how a client draws "
-        "it.\n"
-        "Exit status: 0 the name decodes; 1 it fails, and the picture says why; 2 usage, input or output "
-        "error.");
+        "it.");
+    command.ExitStatus(
+        "0 the name decodes; 1 it fails, and the picture says why; 2 usage, input or output error.");
+    command.Example("kavrix-resource draw 'kavrix://resource/Main St_0@12.labelBubble' > bubble.svg");
     return [options] { return Run(*options); };
   };
   return {"draw", "Draw the bubble of a resource name, as SVG", list_options};

@@ -76,17 +76,19 @@ CommandDescription EncodeCommand() {
     command.Arguments("FIELDS", options->bulk.names,
                       "JSON objects of fields, with --kind; without any, read lines "
                       "{\"kind\": ..., \"fields\": ...} from standard input");
-    command.Text("--kind", options->kind,
-                 "The kind of all bubbles; each line of input is then only its fields");
+    command.Text("--kind KIND", options->kind,
+                 "The kind of all bubbles; each line of input is then only its fields", KindNames());
     AddInputOption(command, options->bulk, "lines");
-    command.Text("--prefix", options->prefix, "Prefix of the names instead of kavrix://resource/");
+    command.Text("--prefix TEXT", options->prefix, "Prefix of the names instead of kavrix://resource/");
     command.Flag("--null", options->null_delimited, "End names in NUL, not newline");
     AddBulkOptions(command, options->bulk);
-    command.Footer(
+    command.Details(
         "\"kavrix-resource kinds\" shows the fields of each kind. A value that would not decode unchanged is "
         "an\n"
-        "error that names the line, the field and the character; the other lines are still encoded.\n"
-        "Exit status: 0 every bubble encoded; 1 a bubble failed; 2 usage, input or output error.");
+        "error that names the line, the field and the character; the other lines are still encoded.");
+    command.ExitStatus("0 every bubble encoded; 1 a bubble failed; 2 usage, input or output error.");
+    command.Example(
+        R"(kavrix-resource encode --kind labelBubble '{"content":"Main St","mode":0,"direction":12}')");
     return [options] { return Run(*options); };
   };
   return {"encode", "Build resource names from JSON fields", list_options};

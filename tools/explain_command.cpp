@@ -46,12 +46,13 @@ CommandDescription ExplainCommand() {
     AddNameOptions(command, options->names);
     AddFormatOption(command, options->format, {"text", "json"});
     command.Flag("--all", options->all_members, "In text format, also show members that hold their defaults");
-    command.Footer(
+    command.Details(
         "Shows where each member of the descriptor came from: bytes of the name, a value of the "
         "configuration,\n"
         "the context, the kind, other keys, or nothing. Bytes are counted from 0, the last is not included.\n"
-        "Under the name: ~ bytes of a member, - of a key that only steers, x ignored.\n"
-        "Exit status: 0 every name decodes; 1 a name fails; 2 usage, input or output error.");
+        "Under the name: ~ bytes of a member, - of a key that only steers, x ignored.");
+    command.ExitStatus("0 every name decodes; 1 a name fails; 2 usage, input or output error.");
+    command.Example(R"(kavrix-resource explain 'kavrix://resource/{"contnt":"Jam","mode":0}.trafficBubble')");
     return [options] { return Run(*options); };
   };
   return {"explain", "Explain where every member of a descriptor came from, and what is wrong", list_options};

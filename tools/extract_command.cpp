@@ -64,7 +64,7 @@ CommandDescription ExtractCommand() {
     command.Choice("--format", options->format, {"text", "json"},
                    "Output format: text, one name a line, or json, with file, line and byte");
     command.Flag("--unique", options->unique, "Print each name once, where it is first; keeps all in memory");
-    command.Footer(
+    command.Details(
         "A name begins with the prefix. It ends with the marker after its object, which is read as the "
         "decoder\n"
         "reads it; without an object, with the first marker after \"@\" and a number, else with the last "
@@ -72,9 +72,11 @@ CommandDescription ExtractCommand() {
         "before the next name, else with the line. In the library's own log (\"[Kavrix][...]\") each "
         "request\n"
         "counts once, although several records hold its name.\n"
-        "Lines count from 1, bytes in the line from 0.\n"
-        "Exit status: 0, also when there is no name; 2 usage, input or output error. A file that cannot be\n"
+        "Lines count from 1, bytes in the line from 0.");
+    command.ExitStatus(
+        "0, also when there is no name; 2 usage, input or output error. A file that cannot be\n"
         "read does not stop the others.");
+    command.Example("kavrix-resource extract --unique client.log");
     return [options] { return Run(*options); };
   };
   return {"extract", "Find the resource names in logs and other texts", list_options};

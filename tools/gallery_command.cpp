@@ -194,15 +194,17 @@ CommandDescription GalleryCommand() {
                         "Resource names; without any, read one a line from standard input");
     AddJobs(command, options->bulk);
     options->bulk.prints_results = false;
-    command.Footer(
+    command.Details(
         "Prints one HTML page that needs nothing else: no script, nothing fetched. Each name is drawn by day "
         "and\n"
         "by night, with its problems and its members. The pictures are schematic.\n"
         "Without names (no arguments, no --input, and standard input empty or a terminal), the page has\n"
         "samples of all kinds and of marker names. A page has at most 1000 names; it is held in memory "
         "until\n"
-        "the last is read.\n"
-        "Exit status: 0 every name decodes; 1 a name fails or is left out; 2 usage, input or output error.");
+        "the last is read.");
+    command.ExitStatus(
+        "0 every name decodes; 1 a name fails or is left out; 2 usage, input or output error.");
+    command.Example("kavrix-resource extract --unique client.log | kavrix-resource gallery > gallery.html");
     return [options] { return Run(*options); };
   };
   return {"gallery", "Draw many resource names, as one HTML page", list_options};

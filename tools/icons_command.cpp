@@ -106,6 +106,8 @@ CommandDescription IconsCommand() {
     command.Arguments("QUERY", options->queries,
                       "Ids (65537, 0x10001) or parts of descriptions; without any, show all icons");
     AddFormatOption(command, options->format, {"text", "json"});
+    command.ExitStatus("0 success; 1 a query finds no icon; 2 usage or output error.");
+    command.Example("kavrix-resource icons --format text 0x1010b");
     return [options] { return Run(*options); };
   };
   return {"icons", "Show the built-in icons, each by day and by night", list_options};

@@ -131,8 +131,11 @@ CommandDescription KindsCommand() {
   const auto list_options = [](Command& command) -> std::function<int()> {
     const auto options = std::make_shared<KindsOptions>();
     command.Arguments("KIND", options->names,
-                      "Kinds, such as etaBubble, or \"marker\" for marker names; without any, show all");
+                      "Kinds, such as etaBubble, or \"marker\" for marker names; without any, show all",
+                      KindNames());
     AddFormatOption(command, options->format, {"text", "json", "markdown"});
+    command.ExitStatus("0 success; 2 usage or output error, also for a kind that there is not.");
+    command.Example("kavrix-resource kinds --format text lightWaitBubble");
     return [options] { return Run(*options); };
   };
   return {"kinds", "Show the grammar, the keys and a sample of each kind", list_options};

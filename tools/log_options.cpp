@@ -22,7 +22,7 @@ void AddLogOptions(Command& command, LogOptions& options, const std::string& hel
                    const std::string& json_help) {
   command.Arguments("FILE", options.files, help);
   command.Flag("--json", options.json, json_help);
-  command.Text("--prefix", options.prefix, "Prefix of the names instead of kavrix://resource/");
+  command.Text("--prefix TEXT", options.prefix, "Prefix of the names instead of kavrix://resource/");
 }
 
 }  // namespace kavrix::tools

@@ -17,7 +17,7 @@ namespace {
 
 void AddNames(Command& command, NameOptions& options, const std::string& help) {
   command.Arguments("NAME", options.bulk.names, help);
-  command.Text("--prefix", options.prefix, "Prefix of the names instead of kavrix://resource/");
+  command.Text("--prefix TEXT", options.prefix, "Prefix of the names instead of kavrix://resource/");
   command.Flag("--marker", options.marker, "The names are marker names, not bubble names");
 }
 
@@ -27,11 +27,11 @@ void AddInput(Command& command, NameOptions& options) {
 }
 
 void AddContextName(Command& command, NameOptions& options) {
-  command.Text("--context-name", options.context_name, "Context name in the log records");
+  command.Text("--context-name TEXT", options.context_name, "Context name in the log records");
 }
 
 void AddConfig(Command& command, NameOptions& options) {
-  command.Text("--config", options.config_path, "Configuration file instead of the built-in one");
+  command.Text("--config FILE", options.config_path, "Configuration file instead of the built-in one");
 }
 
 }  // namespace

@@ -67,27 +67,31 @@ std::string WithDefinitions(const std::string& schema) {
   return text + "\n  }\n}\n";
 }
 
-std::string SchemaCalled(const std::string& name) {
+std::vector<std::string> Names() {
   std::vector<std::string> names;
+  for (const SchemaFile& schema : SchemaFiles()) names.emplace_back(schema.name);
+  return names;
+}
+
+std::string SchemaCalled(const std::string& name) {
   for (const SchemaFile& schema : SchemaFiles()) {
     if (schema.name == name) return WithDefinitions(schema.text);
-    names.emplace_back(schema.name);
   }
-  std::string hint = DidYouMean(name, names);
+  std::string hint = DidYouMean(name, Names());
   if (hint.empty()) hint = "; kavrix-resource schema lists them";
   throw UsageError("no schema is called \"" + std::string(Excerpt(name)) + "\"" + hint);
 }
 
-std::string Names() {
-  std::string names;
-  for (const SchemaFile& schema : SchemaFiles()) names += std::string(schema.name) + '\n';
-  return names;
+std::string List() {
+  std::string list;
+  for (const std::string& name : Names()) list += name + '\n';
+  return list;
 }
 
 int Run(const std::vector<std::string>& names) {
   if (names.size() > 1) throw UsageError("expected the name of one schema");
   Output output(false);
-  output.Write(names.empty() ? Names() : SchemaCalled(names[0]));
+  output.Write(names.empty() ? List() : SchemaCalled(names[0]));
   output.Flush();
   return 0;
 }
@@ -97,12 +101,14 @@ int Run(const std::vector<std::string>& names) {
 CommandDescription SchemaCommand() {
   const auto list_options = [](Command& command) -> std::function<int()> {
     const auto names = std::make_shared<std::vector<std::string>>();
-    command.Arguments("NAME", *names, "What the schema is of; without it, list the names");
-    command.Footer(
+    command.Arguments("NAME", *names, "What the schema is of; without it, list the names", Names());
+    command.Details(
         "Prints a JSON Schema (draft 2020-12) that stands alone: \"config\" is of the configuration file,\n"
         "\"encode\" of a line that encode reads, every other of a line that the command prints as JSON.\n"
         "\"compare\" is of two names, \"compare-each\" of two configurations or two outputs of decode,\n"
         "\"compare-summary\" of --summary.");
+    command.ExitStatus("0 success; 2 usage or output error, also for a schema that there is not.");
+    command.Example("kavrix-resource schema config > config.schema.json");
     return [names] { return Run(*names); };
   };
   return {"schema", "Print the JSON Schema of an output or of the configuration file", list_options};

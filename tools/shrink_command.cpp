@@ -41,13 +41,14 @@ CommandDescription ShrinkCommand() {
     const auto options = std::make_shared<ShrinkOptions>();
     AddNameOptions(command, options->names);
     AddFormatOption(command, options->format, {"text", "json"});
-    command.Footer(
+    command.Details(
         "Prints the smallest name found that fails in the same way: it is of the same kind, its first error\n"
         "has the same code, and it has no problem of another code than the name. --format json prints what\n"
-        "decode does, with the codes of its problems: a line for a collection of tests.\n"
-        "Exit status, as of decode: 0 no name fails; 1 a name does, and was shrunk; 2 usage, input or "
-        "output\n"
+        "decode does, with the codes of its problems: a line for a collection of tests.");
+    command.ExitStatus(
+        "as of decode: 0 no name fails; 1 a name does, and was shrunk; 2 usage, input or output\n"
         "error.");
+    command.Example(R"(kavrix-resource shrink 'kavrix://resource/{"content":"Jam","scene":}.trafficBubble')");
     return [options] { return Run(*options); };
   };
   return {"shrink", "Find the smallest name that fails as a name does", list_options};

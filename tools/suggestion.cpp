@@ -13,11 +13,15 @@ std::string DidYouMean(std::string_view text, const std::vector<std::string>& wo
   return nearest ? "; did you mean \"" + *nearest + "\"?" : "";
 }
 
+std::vector<std::string> KindNames() {
+  std::vector<std::string> names;
+  for (const BubbleKindInfo* const info : AllKindInfos()) names.emplace_back(info->Name());
+  return names;
+}
+
 const BubbleKindInfo& KindCalled(const std::string& name) {
   if (const BubbleKindInfo* const info = FindKindInfo(name)) return *info;
-  std::vector<std::string> kinds;
-  for (const BubbleKindInfo* const info : AllKindInfos()) kinds.emplace_back(info->Name());
-  std::string hint = DidYouMean(name, kinds);
+  std::string hint = DidYouMean(name, KindNames());
   if (hint.empty()) hint = "; kavrix-resource kinds lists them";
   throw UsageError("no kind is called \"" + Excerpt(name) + "\"" + hint);
 }

@@ -147,12 +147,14 @@ CommandDescription SurveyCommand() {
     command.Flag("--marker", options->marker, "The names are marker names, not bubble names");
     command.Flag("--null", options->null_delimited, "Names end in NUL, not newline");
     AddFormatOption(command, options->format, {"text", "json"});
-    command.Footer(
+    command.Details(
         "Counts the names of each kind, those that fail, those with problems by code, and those that use a\n"
         "style record. An example is the shortest name with the problem, the first by its bytes of those.\n"
-        "Reports merge in any order and grouping to the report of all their names.\n"
-        "Exit status: 0, whatever failed; 2 usage, input or output error. A file or report that cannot be\n"
+        "Reports merge in any order and grouping to the report of all their names.");
+    command.ExitStatus(
+        "0, whatever failed; 2 usage, input or output error. A file or report that cannot be\n"
         "read does not stop the others; a report that is not sound is left out.");
+    command.Example("kavrix-resource survey --extract --format text client.log");
     return [options] { return Run(*options); };
   };
   return {"survey", "Count kinds, failures, problems and style records of many names", list_options};

@@ -67,5 +67,35 @@ TEST(CommandLineTest, EveryCommandHasItsTestsAndItsPlaceInTheReadme) {
   }
 }
 
+// The files that the examples of the help texts read.
+constexpr char kExampleFiles[] =
+    "cd $(mktemp -d); trap 'rm -rf \"$PWD\"' EXIT; set -o pipefail;"
+    "kavrix-resource() { \"$TOOL\" \"$@\"; }; man() { [ \"$*\" = '-l -' ] && cat; };"
+    "kavrix-resource config --default | tee old.json > my.json; cp old.json new.json;"
+    "echo 'kavrix://resource/Main St_0@12.labelBubble' | tee names.txt > client.log;";
+
+TEST(CommandLineTest, EveryExampleOfAHelpTextRuns) {
+  for (const std::string& command : ToolCommands()) {
+    int examples = 0;
+    for (const std::string& line : RunTool({command, "--help"}).Lines()) {
+      if (line.rfind("Example: ", 0) != 0) continue;
+      ++examples;
+      EXPECT_THAT(line, HasSubstr("kavrix-resource " + command + " "));
+      const ToolResult result = RunProgram(
+          {"/bin/bash", "-c", std::string("TOOL='" KAVRIX_TOOL "';") + kExampleFiles + line.substr(9)});
+      EXPECT_EQ(result.errors, "") << line;
+      EXPECT_EQ(result.status, command == "shrink" ? 1 : 0) << line;  // which takes a name that fails
+    }
+    EXPECT_GT(examples, 0) << command;
+  }
+}
+
+TEST(CommandLineTest, HelpNamesWhatAnOptionTakesAndTheDefaultOfANumber) {
+  const std::string help = RunTool({"decode", "--help"}).output;
+  EXPECT_THAT(help, HasSubstr("  --config FILE "));
+  EXPECT_THAT(help, HasSubstr("  --format text|json "));
+  EXPECT_THAT(help, HasSubstr("Number of threads that work, 1 to 256; by default 1\n"));
+}
+
 }  // namespace
 }  // namespace kavrix::test
