@@ -55,15 +55,15 @@ TEST(CommandLineTest, HelpAndVersionSucceed) {
   EXPECT_EQ(version.output, "kavrix-resource " KAVRIX_VERSION "\n");
 }
 
-TEST(CommandLineTest, EveryCommandHasItsTestsAndItsPlaceInTheReadme) {
+TEST(CommandLineTest, EveryCommandHasItsTestsAndItsPlaceInTheTour) {
   const std::vector<std::string> commands = ToolCommands();
   EXPECT_THAT(commands, Contains("decode"));
-  const std::string readme = ReadFile(KAVRIX_SOURCE_DIR "/README.md");
+  const std::string page = ReadFile(KAVRIX_SOURCE_DIR "/docs/tool.md");
   for (const std::string& command : commands) {
     const std::string tests = "tests/tools/" + command + "_command_test.cpp";
     EXPECT_TRUE(std::filesystem::exists(KAVRIX_SOURCE_DIR "/" + tests)) << tests << " is missing";
-    EXPECT_NE(readme.find("kavrix-resource " + command + " "), std::string::npos)
-        << "README.md does not show kavrix-resource " << command;
+    EXPECT_NE(page.find("kavrix-resource " + command + " "), std::string::npos)
+        << "docs/tool.md does not show kavrix-resource " << command;
   }
 }
 
