@@ -33,6 +33,28 @@ if(inspect_library)
 endif()
 run(${work}/prefix/bin/kavrix-resource --version)
 
+# The tool's manual pages, one for each command, and its completion script.
+execute_process(COMMAND ${work}/prefix/bin/kavrix-resource --help OUTPUT_VARIABLE help COMMAND_ERROR_IS_FATAL ANY)
+string(REGEX MATCHALL "\n  [a-z]+ " commands "${help}")
+list(TRANSFORM commands STRIP)
+list(TRANSFORM commands REPLACE "(.+)" "kavrix-resource-\\1.1" OUTPUT_VARIABLE expected_pages)
+list(APPEND expected_pages kavrix-resource.1)
+list(SORT expected_pages)
+file(
+  GLOB pages
+  RELATIVE ${work}/prefix/share/man/man1
+  ${work}/prefix/share/man/man1/*)
+list(SORT pages)
+list(LENGTH pages page_count)
+if(NOT pages STREQUAL expected_pages OR page_count LESS 15)
+  message(FATAL_ERROR "the installed manual pages are\n${pages}\nand not\n${expected_pages}")
+endif()
+file(READ ${work}/prefix/share/man/man1/kavrix-resource-decode.1 page)
+if(NOT page MATCHES "^.TH KAVRIX")
+  message(FATAL_ERROR "the page of decode begins with no title:\n${page}")
+endif()
+run(bash -n ${work}/prefix/share/bash-completion/completions/kavrix-resource)
+
 # A client of pkg-config alone.
 file(GLOB_RECURSE pc ${work}/prefix/*.pc)
 get_filename_component(pc_dir ${pc} DIRECTORY)
