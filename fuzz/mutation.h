@@ -5,7 +5,8 @@
 
 namespace kavrix::fuzz {
 
-// The text with one change that knows what names and payloads are made of: members, values, markers, fields.
+// The text with one change that knows what texts of its sort are made of: in mutation.cpp names and payloads,
+// with members, values, markers and fields, in config_mutation.cpp configuration files.
 std::string Mutated(const std::string& text, unsigned seed);
 
 }  // namespace kavrix::fuzz

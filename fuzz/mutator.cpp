@@ -1,4 +1,4 @@
-// Half of the changes to inputs know what names are made of; the others are libFuzzer's own, which know
+// Half of the changes to inputs know what inputs are made of; the others are libFuzzer's own, which know
 // nothing of it.
 
 #include <algorithm>
