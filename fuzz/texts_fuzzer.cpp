@@ -1,10 +1,13 @@
-// Compares the readers of text fields with simpler code, or checks their results.
+// Compares the readers of texts with plain code: integers, fields, directions, objects, UTF-8.
 
 #include "fuzz/fuzzing.h"
+#include "map_resource/map_resource_manager.h"
 #include "map_resource/resource_name.h"
+#include "tests/reference/fields.h"
+#include "tests/reference/self_initialised.h"
+#include "tests/support/utf8_agreement.h"
 #include "util/fields.h"
 #include "util/string_util.h"
-#include "util/utf8.h"
 
 namespace kavrix::fuzz {
 namespace {
@@ -12,6 +15,9 @@ namespace {
 void CheckNumbers(std::string_view text) {
   int number = 12345;
   const bool is_number = ReadInt(text, number);
+  int by_reference = 12345;
+  Require(reference::ToInt(std::string(text), by_reference) == is_number && by_reference == number,
+          "the reference reads the same integer");
   if (is_number) {
     Require(LeadingInt(text) == number, "both readers of integers agree on what both accept");
     Require(std::strtol(std::string(text).c_str(), nullptr, 10) == number, "an integer is what strtol reads");
@@ -45,18 +51,23 @@ void CheckTrimmedFields(std::string_view text) {
 }
 
 void CheckUtf8(std::string_view text) {
-  const std::string valid = ToValidUtf8(text);
-  Require(ToValidUtf8(valid) == valid, "a text made valid stays as it is");
-  const bool is_ascii = std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
-  if (is_ascii) Require(valid == text, "ASCII stays as it is");
+  const std::string difference = test::DisagreementOnUtf8(text);
+  Require(difference.empty(), difference.c_str());
 }
 
 void CheckJsonObject(std::string_view text) {
-  const std::string_view object = FindJsonObject(text);
-  if (object.empty()) return;
-  Require(object.front() == '{' && object.back() == '}', "an object is enclosed in braces");
-  Require(object.data() >= text.data() && object.data() + object.size() <= text.data() + text.size(),
-          "an object is a piece of the name");
+  Require(FindJsonObject(text) == reference::BetweenBraces(std::string(text)),
+          "an object goes from the first brace after the prefix to the last");
+}
+
+void CheckDirection(std::string_view tail) {
+  constexpr std::int16_t kBefore = 12345;
+  BubbleDrawDescriptor actual;
+  actual.direction = kBefore;
+  BubbleDrawDescriptor expected = actual;
+  ReadDirectionTail(tail, actual);
+  reference::ReadDirection(std::string(tail), expected);
+  Require(actual == expected, "a direction is the number before the only dot, or stays");
 }
 
 }  // namespace
@@ -70,7 +81,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   fuzz::CheckTrimmedFields(input.text());
   fuzz::CheckUtf8(input.text());
   fuzz::CheckJsonObject(input.text());
-  BubbleDrawDescriptor descriptor;
-  ReadDirectionTail(input.text(), descriptor);
+  const std::string name = MapResourceManager::kavrix_resource_prefix + std::string(input.text());
+  fuzz::CheckJsonObject(fuzz::ExactCopy(name).text());
+  fuzz::CheckDirection(input.text());
   return 0;
 }
