@@ -31,7 +31,8 @@ class RoundTrip {
     std::string error;
     if (!JsonUtil::ParseStrictly(text, fields, error)) return;
     const std::optional<std::string> name = Encode(fields);
-    Require(name.has_value() || !test::MustBeTaken(info_, fields), "fields that a name can carry are taken");
+    Require(name.has_value() == test::CanBeCarried(info_, fields),
+            "the fields that a name can carry are taken, and no others");
     if (!name) return;
     Require(!GoesElsewhere(*name), "a name goes to its kind");
     const std::optional<std::string> read = ReadFields(*name);

@@ -1,12 +1,13 @@
 #include "tests/support/carried_fields.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "util/utf8.h"
+#include "tests/reference/utf8.h"
 
 namespace kavrix::test {
 namespace {
@@ -51,48 +52,64 @@ Json::Value Completed(const std::vector<KeyInfo>& keys, const std::string& path,
 }
 
 bool IsIntegerFrom(const Json::Value& value, std::int64_t least, std::int64_t most) {
-  return value.type() == Json::intValue && value.asInt64() >= least && value.asInt64() <= most;
+  const bool is_integer = value.type() == Json::intValue || value.type() == Json::uintValue;
+  return is_integer && value.isInt64() && value.asInt64() >= least && value.asInt64() <= most;
 }
 
-bool IsGoodText(const Json::Value& value, bool is_json) {
-  if (!value.isString()) return false;
-  const std::string text = value.asString();
-  return ValidUtf8Length(text) == text.size() && (is_json || text.find_first_of("_@|.") == std::string::npos);
-}
+// Decides which values the names of one kind can carry.
+class Carrier {
+ public:
+  explicit Carrier(const BubbleKindInfo& info) : info_(info), keys_(KeysOf(info)) {}
 
-bool IsGoodObject(const std::vector<KeyInfo>& keys, const std::string& path, const Json::Value& object,
-                  bool is_json);
-
-bool IsGoodValue(const std::vector<KeyInfo>& keys, const std::string& path, const KeyInfo& key,
-                 const Json::Value& value, bool is_json) {
-  if (key.type == "text") return IsGoodText(value, is_json);
-  if (key.type == "integer") {
-    return IsIntegerFrom(value, std::numeric_limits<std::int32_t>::min(),
-                         std::numeric_limits<std::int32_t>::max());
+  bool CarriesObject(const std::string& path, const Json::Value& object) const {
+    if (!object.isObject()) return false;
+    std::size_t known = 0;
+    for (const KeyInfo& key : KeysUnder(keys_, path)) {
+      if (!object.isMember(key.key)) continue;
+      if (!CarriesValue(path, key, object[key.key])) return false;
+      ++known;
+    }
+    return known == object.size();
   }
-  if (key.type == "integer, low 16 bits") return IsIntegerFrom(value, -32768, 32767);
-  if (key.type == "flag") return IsIntegerFrom(value, 0, 1);
-  if (!value.isArray()) return false;
-  for (const Json::Value& element : value) {
-    const bool is_good = key.type == "array of texts"
-                             ? IsGoodText(element, is_json)
-                             : IsGoodObject(keys, path + key.key + "[].", element, is_json);
-    if (!is_good) return false;
-  }
-  return true;
-}
 
-bool IsGoodObject(const std::vector<KeyInfo>& keys, const std::string& path, const Json::Value& object,
-                  bool is_json) {
-  if (!object.isObject()) return false;
-  std::size_t known = 0;
-  for (const KeyInfo& key : KeysUnder(keys, path)) {
-    if (!object.isMember(key.key)) continue;
-    if (!IsGoodValue(keys, path, key, object[key.key], is_json)) return false;
-    ++known;
+ private:
+  bool CarriesValue(const std::string& path, const KeyInfo& key, const Json::Value& value) const {
+    if (key.type == "text") return CarriesText(key.key, value);
+    if (key.type == "integer") {
+      return IsIntegerFrom(value, std::numeric_limits<std::int32_t>::min(),
+                           std::numeric_limits<std::int32_t>::max());
+    }
+    if (key.type == "integer, low 16 bits") return IsIntegerFrom(value, -32768, 32767);
+    if (key.type == "flag") return IsIntegerFrom(value, 0, 1);
+    if (!value.isArray()) return false;
+    return std::all_of(value.begin(), value.end(), [&](const Json::Value& element) {
+      return key.type == "array of texts" ? CarriesText(key.key, element)
+                                          : CarriesObject(path + key.key + "[].", element);
+    });
   }
-  return known == object.size();
-}
+
+  // A JSON object escapes what a field cannot hold: separators, and markers that the search finds before the
+  // kind's own.
+  bool CarriesText(const std::string& key, const Json::Value& value) const {
+    if (!value.isString()) return false;
+    const std::string text = value.asString();
+    if (reference::ValidUtf8Bytes(text) != text.size()) return false;
+    if (IsJsonKind(info_)) return true;
+    const bool ends_content = key == "sub_text" && text.find('|') != std::string::npos;
+    return text.find_first_of("_@") == std::string::npos && !ends_content && !HoldsEarlierMarker(text);
+  }
+
+  bool HoldsEarlierMarker(const std::string& text) const {
+    for (const BubbleKind kind : kBubbleKinds) {
+      if (MarkerOf(kind) == info_.marker) return false;
+      if (text.find(MarkerOf(kind)) != std::string::npos) return true;
+    }
+    return false;
+  }
+
+  const BubbleKindInfo& info_;
+  std::vector<KeyInfo> keys_;
+};
 
 // Outside scene 0 a traffic bubble keeps only whether it is navigating.
 void MakeNavModeCanonical(Json::Value& fields) {
@@ -111,8 +128,8 @@ Json::Value CompleteFields(const BubbleKindInfo& info, const Json::Value& fields
   return completed;
 }
 
-bool MustBeTaken(const BubbleKindInfo& info, const Json::Value& fields) {
-  return IsGoodObject(KeysOf(info), "", fields, IsJsonKind(info));
+bool CanBeCarried(const BubbleKindInfo& info, const Json::Value& fields) {
+  return Carrier(info).CarriesObject("", fields);
 }
 
 }  // namespace kavrix::test

@@ -14,9 +14,10 @@ bool IsJsonKind(const BubbleKindInfo& info);
 // Returns the fields with the keys that they leave out added, as decoding a name built from them gives them.
 Json::Value CompleteFields(const BubbleKindInfo& info, const Json::Value& fields);
 
-// Returns true when the encoder must accept the fields: known keys, right types, numbers in range, strings
-// that are UTF-8 and, in kinds without JSON, hold no separator and no dot. It may accept others too.
-bool MustBeTaken(const BubbleKindInfo& info, const Json::Value& fields);
+// Returns whether the encoder takes the fields: all of them known, of the right type, numbers in range,
+// flags 0 or 1, strings UTF-8. In kinds without JSON strings hold no "_" and no "@", no marker that the
+// search finds before the kind's own, and the second text of an ETA no "|". Nothing else is refused.
+bool CanBeCarried(const BubbleKindInfo& info, const Json::Value& fields);
 
 }  // namespace kavrix::test
 
