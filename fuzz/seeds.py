@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Writes the first inputs of each fuzzer, made from the names of the golden files, the default configuration and fuzz/corpus.
+"""Writes the first inputs of each fuzzer: the names of the golden files, the default configuration, and the inputs that
+fuzz/corpus/FUZZER.jsonl (what reached code, by pack_corpus.py) and fuzz/found/FUZZER.jsonl (what broke something) keep.
 
 usage: seeds.py ROOT OUTPUT < markers    ROOT of the repository; the markers one a line, as fuzz_dictionary prints them
 """
@@ -9,6 +10,7 @@ import pathlib
 import sys
 
 PREFIX = "kavrix://resource/"
+LONGEST = 2048  # more would be cut off: -max_len of scripts/fuzz
 
 
 def golden_names(root):
@@ -25,12 +27,15 @@ def payload_inputs(names, markers):
                 yield bytes([number]) + name[len(PREFIX):-len(marker)].encode()
 
 
-def node_inputs(root, names):
-    """Payloads, and what earlier runs of the nodes fuzzer kept."""
-    for name in names:
-        yield name.removeprefix(PREFIX).encode()
-    for line in (root / "fuzz/corpus/nodes.jsonl").read_text(encoding="ascii").splitlines():
+def lines_of(path):
+    return path.read_text(encoding="ascii").splitlines() if path.exists() else []
+
+
+def remembered_inputs(root, fuzzer):
+    for line in lines_of(root / f"fuzz/corpus/{fuzzer}.jsonl"):
         yield json.loads(line).encode("latin-1")
+    for line in lines_of(root / f"fuzz/found/{fuzzer}.jsonl"):
+        yield json.loads(line)["input"].encode("latin-1")
 
 
 def text_inputs(names):
@@ -43,13 +48,16 @@ def text_inputs(names):
 
 
 def config_inputs(root):
-    text = (root / "samples/default_config.json").read_text(encoding="utf-8")
-    config = json.loads(text)
-    yield text.encode()
-    yield json.dumps({**config, "bubble_layer": {}}).encode()
+    config = json.loads((root / "samples/default_config.json").read_text(encoding="utf-8"))
+    yield compact(config)
+    yield compact({**config, "bubble_layer": {}})
     for name, record in config["bubble_layer"].items():
         yield json.dumps({"bubble_layer": {name: record}}, ensure_ascii=False).encode()
-    yield json.dumps({"marker_bubble": config["marker_bubble"]}, ensure_ascii=False).encode()
+    yield compact({"marker_bubble": config["marker_bubble"]})
+
+
+def compact(value):
+    return json.dumps(value, ensure_ascii=False, separators=(",", ":")).encode()
 
 
 def log_inputs(names):
@@ -79,17 +87,22 @@ def main():
         "names": [name.encode() for name in names],
         "explain": [name.encode() for name in names],
         "payloads": payload_inputs(names, markers),
-        "nodes": node_inputs(root, names),
+        "nodes": [name.removeprefix(PREFIX).encode() for name in names],
         "round_trip": payload_inputs(names, markers),
         "texts": text_inputs(names),
         "config": config_inputs(root),
         "extract": log_inputs(names),
         "line_input": stream_inputs(names),
     }
+    for path in sorted(root.glob("fuzz/*/*.jsonl")):
+        if path.stem not in inputs:
+            sys.exit(f"seeds.py: {path} is of no fuzzer")
     for fuzzer, seeds in inputs.items():
         folder = output / fuzzer
         folder.mkdir(parents=True, exist_ok=True)
-        for number, seed in enumerate(sorted(set(seeds))):
+        for number, seed in enumerate(sorted({*seeds, *remembered_inputs(root, fuzzer)})):
+            if len(seed) > LONGEST:
+                sys.exit(f"seeds.py: an input of {fuzzer} has {len(seed)} bytes, expected at most {LONGEST}: {seed[:60]}")
             (folder / f"seed-{number:04}").write_bytes(seed)
 
 
