@@ -1,0 +1,28 @@
+# Installs the tool and checks what makes a fault in it harder to exploit. `cmake -P` runs it, with BUILD_DIR, SOURCE_DIR and READELF.
+set(prefix ${BUILD_DIR}/hardening)
+file(REMOVE_RECURSE ${prefix})
+execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD_DIR} --component kavrix_tool --prefix ${prefix} --strip
+                OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+set(tool ${prefix}/bin/kavrix-resource)
+execute_process(COMMAND ${READELF} -W -h -l -d --dyn-syms ${tool} OUTPUT_VARIABLE parts COMMAND_ERROR_IS_FATAL ANY)
+
+function(expect pattern what)
+  if(NOT parts MATCHES ${pattern})
+    message(SEND_ERROR "${tool}: ${what}: readelf does not show \"${pattern}\"")
+  endif()
+endfunction()
+expect("Type: +DYN .*(PIE|INTERP)" "a program at any address")
+expect("GNU_RELRO" "tables that are read-only while it runs")
+expect("BIND_NOW|Flags: NOW" "all symbols bound at its start, so that those tables can be")
+expect("__stack_chk_fail" "the guard of the stack")
+expect("__[a-z]+_chk@" "the C library's checks of lengths")
+if(parts MATCHES "R(UN)?PATH")
+  message(SEND_ERROR "${tool} looks for libraries in a folder of its own")
+endif()
+
+foreach(folder IN ITEMS ${SOURCE_DIR} ${BUILD_DIR})
+  execute_process(COMMAND grep -q -a -F ${folder} ${tool} RESULT_VARIABLE status)
+  if(NOT status EQUAL 1)
+    message(SEND_ERROR "${tool} holds the path ${folder} of its build")
+  endif()
+endforeach()
