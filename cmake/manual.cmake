@@ -1,4 +1,8 @@
 # The manual pages and the completion script, which the tool prints of itself. Each command has its NAME_command.cpp.
+if(CMAKE_CROSSCOMPILING AND NOT CMAKE_CROSSCOMPILING_EMULATOR)
+  message(NOTICE "leaves out the manual pages and the completion: without CMAKE_CROSSCOMPILING_EMULATOR the tool cannot print them")
+  return()
+endif()
 file(GLOB command_sources CONFIGURE_DEPENDS tools/*_command.cpp)
 list(TRANSFORM command_sources REPLACE ".*/([a-z]+)_command\\.cpp" "\\1" OUTPUT_VARIABLE commands)
 set(manual_dir ${PROJECT_BINARY_DIR}/manual)
