@@ -52,7 +52,7 @@ set(files bin/decode ${headers} ${package} lib/libkavrix_map_resource.a lib/pkgc
 try(add_subdirectory "${files}" -DKAVRIX_INSTALL=ON -DCMAKE_INSTALL_LIBDIR=lib)
 
 # The size of a stripped client that only decodes, linked with the static library and --gc-sections. It says what a decode
-# pulls in: a tenth more or less needs a reason, and a new figure here and in the README.
+# pulls in: a tenth more or less needs a reason, and a new figure here and in docs/embedding.md.
 set(size_GNU_12 187200)
 set(size_Clang_14 158600)
 set(most 200000)
