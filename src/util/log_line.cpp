@@ -5,21 +5,24 @@
 namespace kavrix::logging {
 namespace {
 
-// Escapes blanks too: a blank ends the field.
-void AppendField(std::string& line, std::string_view text) {
-  for (std::size_t blank = text.find(' '); blank != std::string_view::npos; blank = text.find(' ')) {
-    AppendEscaped(line, text.substr(0, blank));
-    line += "\\x20";
-    text.remove_prefix(blank + 1);
+// Writes `replacement` for each `c` of the text, and the rest escaped.
+void AppendReplaced(std::string& line, std::string_view text, char c, std::string_view replacement) {
+  for (std::size_t at = text.find(c); at != std::string_view::npos; at = text.find(c)) {
+    AppendEscaped(line, text.substr(0, at));
+    line += replacement;
+    text.remove_prefix(at + 1);
   }
   AppendEscaped(line, text);
 }
+
+// Escapes blanks too: a blank ends the field.
+void AppendField(std::string& line, std::string_view text) { AppendReplaced(line, text, ' ', "\\x20"); }
 
 }  // namespace
 
 std::string EscapeLogText(std::string_view text) {
   std::string escaped;
-  AppendEscaped(escaped, text);
+  AppendReplaced(escaped, text, '\\', "\\");
   return escaped;
 }
 

@@ -13,22 +13,23 @@
 
 namespace kavrix::logging {
 
-/// Returns a text with everything escaped that could end the line, begin another or move the cursor, and the
-/// backslash too: the result shows exactly what the text held. Resource names, which anyone may have written,
-/// forge no line then:
+/// Returns a text with everything escaped that could end the line, begin another or move the cursor, so that
+/// resource names, which anyone may have written, forge no line:
 ///
-///     \\                  a backslash
 ///     \n \r \t            newline, carriage return, tab
-///     \u001b \u0085 ...   any other control character, line separators, and what turns the direction of
-///     writing \xff ...            a byte that is not UTF-8
+///     \u001b \u0085 ...   other control characters, line separators, direction marks
+///     \xff ...            a byte that is not UTF-8
+///
+/// A backslash stays as it is: names in JSON are found in the log as they were, and the escapes of control
+/// characters inside their strings are read as those characters.
 KAVRIX_EXPORT std::string EscapeLogText(std::string_view text);
 
 /// Returns the log record as one line, without the newline:
 ///
 ///     failure KavrixMapLayerMgr GetBubbleDrawDescriptor map_resource_transform.cpp:22 [Kavrix][main-map]...
 ///
-/// All of it is escaped as by EscapeLogText; in the four fields before the message the blank is too, as
-/// `\x20`.
+/// All of it is escaped as by EscapeLogText, and the backslash too, as `\\`, so that the line shows exactly
+/// what the log record held. In the four fields before the message a blank is `\x20`.
 KAVRIX_EXPORT std::string FormatLogLine(const LogRecord& record);
 
 /// A sink that writes the lines to a stream, each in one piece under its own lock. Set std::unitbuf on the

@@ -34,7 +34,7 @@ class TaggedRecord : public plog::Record {
   TaggedRecord(const TaggedRecord&) = delete;
   /// Not assigned: it is found by its address.
   TaggedRecord& operator=(const TaggedRecord&) = delete;
-  /// Makes Of find the record no more.
+  /// Of no longer finds the record after this.
   ~TaggedRecord() { innermost_ = outer_; }  // NOLINT(modernize-use-override): plog 1.0 has no virtual one
 
   /// Returns the record as one of the library's, or null when it is a record of the client's own. Needs no
@@ -75,7 +75,7 @@ class TaggedRecord : public plog::Record {
 
 /// How PlogSink writes a message.
 struct PlogOptions {
-  /// Puts the tag before the message, "[Tag] message", for formatters that know no tags. Leave it out with
+  /// Puts the tag before the message, "[Tag] message", for formatters that know no tags. Leave it false with
   /// TaggedTxtFormatter, which prints the tag itself.
   bool tag_in_message = false;
   /// Escapes the message as by EscapeLogText, so that a name with a newline forges no line. When false, the
@@ -138,10 +138,16 @@ class PlogSink : public LogSink {
   }
 
   // Newer plog cuts what it is given at a NUL, and formatters of any plog may cut what they print.
-  static std::string WithoutNul(std::string text) {
-    for (std::size_t nul = text.find('\0'); nul != std::string::npos; nul = text.find('\0', nul))
-      text.replace(nul, 1, "\\u0000");
-    return text;
+  static std::string WithoutNul(const std::string& text) {
+    std::string without;
+    for (const char c : text) {
+      if (c == '\0') {
+        without += "\\u0000";
+      } else {
+        without += c;
+      }
+    }
+    return without;
   }
 
   const std::shared_ptr<plog::IAppender> appender_;
@@ -151,8 +157,7 @@ class PlogSink : public LogSink {
 /// A formatter for plog's appenders, such as `plog::ConsoleAppender<TaggedTxtFormatter>`. Prints the line of
 /// plog's TxtFormatter, and the tag before the message when the record is one of the library's:
 ///
-///     2026-01-31 23:59:59.007 INFO  [4711] [GetBubbleDrawDescriptor@22] [KavrixMapLayerMgr]
-///     [Kavrix][main-map]...
+///     2026-01-31 23:59:59.007 INFO  [4711] [GetBubbleDrawDescriptor@22] [KavrixMapLayerMgr] [Kavrix]...
 ///
 /// The time is local. The thread id is missing when plog's record has none, as in some packages of plog 1.0.
 class TaggedTxtFormatter {

@@ -59,10 +59,11 @@ TEST(LogLineTest, FieldsBeforeTheMessageHoldNoBlank) {
             R"(failure a\x20b\x20 \x20f\n x\x20y:1 m n)");
 }
 
-TEST(LogLineTest, TextIsEscapedAsAMessageIs) {
+TEST(LogLineTest, TextIsEscapedAsAMessageIsButForItsBackslashes) {
   const std::string text("a \"b\"\0\n\\\xFF前", 12);
-  EXPECT_EQ(logging::EscapeLogText(text), R"(a "b"\u0000\n\\\xff前)");
-  EXPECT_EQ(logging::EscapeLogText(text), Shown(text));
+  EXPECT_EQ(logging::EscapeLogText(text), R"(a "b"\u0000\n\\xff前)");
+  EXPECT_EQ(Shown(text), R"(a "b"\u0000\n\\\xff前)");
+  EXPECT_EQ(logging::EscapeLogText("\\"), "\\");
   EXPECT_EQ(logging::EscapeLogText(""), "");
 }
 

@@ -122,7 +122,7 @@ TEST(TaggedLogPlogRecordTest, TagStandsInTheMessageWhenAskedFor) {
 
 TEST(TaggedLogPlogRecordTest, MessageIsEscapedUnlessAskedOtherwise) {
   const std::string message = "a\nb\x1b\\\xFF前";
-  EXPECT_EQ(Arriving(message, {}), R"(a\nb\u001b\\\xff前)");
+  EXPECT_EQ(Arriving(message, {}), R"(a\nb\u001b\\xff前)");
   EXPECT_EQ(Arriving(message, {}), logging::EscapeLogText(message));
   EXPECT_EQ(Arriving(message, Raw()), message);
 }
