@@ -13,7 +13,6 @@ namespace {
 
 using logging::LogLevel;
 using logging::PlogSink;
-using ::testing::ElementsAre;
 
 #ifdef KAVRIX_PLOG_HAS_THREAD_ID
 constexpr char kThread[] = "[4711] ";

@@ -15,6 +15,16 @@ using logging::LogLevel;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
+// A logger of the client's own, which writes to a keeper.
+template <int id>
+class ClientLogger : public plog::Logger<id> {
+ public:
+  explicit ClientLogger(RecordKeeper& keeper, plog::Severity severity = plog::info) {
+    this->setMaxSeverity(severity);
+    this->addAppender(&keeper);
+  }
+};
+
 class TaggedLogPlogJoinTest : public ::testing::Test {
  protected:
   ~TaggedLogPlogJoinTest() override {
@@ -35,9 +45,7 @@ class TaggedLogPlogJoinTest : public ::testing::Test {
 };
 
 TEST_F(TaggedLogPlogJoinTest, LogRecordsReachTheLoggerOfTheClient) {
-  plog::Logger<0> logger;
-  logger.setMaxSeverity(plog::info);
-  logger.addAppender(&keeper_);
+  ClientLogger<0> logger(keeper_);
   ASSERT_TRUE(JoinPlog());
   Reject();
   EXPECT_THAT(keeper_.messages, ElementsAre("[Kavrix][ctx]resource_name:n",
@@ -47,9 +55,7 @@ TEST_F(TaggedLogPlogJoinTest, LogRecordsReachTheLoggerOfTheClient) {
 }
 
 TEST_F(TaggedLogPlogJoinTest, WithoutThatLoggerNothingChanges) {
-  plog::Logger<0> logger;
-  logger.setMaxSeverity(plog::info);
-  logger.addAppender(&keeper_);
+  ClientLogger<0> logger(keeper_);
   ASSERT_TRUE(JoinPlog());
   EXPECT_FALSE(JoinPlog<2>());
   EXPECT_EQ(logging::kavrix_log_instance_id_, 0U);
@@ -59,13 +65,9 @@ TEST_F(TaggedLogPlogJoinTest, WithoutThatLoggerNothingChanges) {
 }
 
 TEST_F(TaggedLogPlogJoinTest, AnotherLoggerIsJoinedBesideTheFirst) {
-  plog::Logger<0> first;
-  first.setMaxSeverity(plog::info);
-  first.addAppender(&keeper_);
+  ClientLogger<0> first(keeper_);
   RecordKeeper second_keeper;
-  plog::Logger<2> second;
-  second.setMaxSeverity(plog::info);
-  second.addAppender(&second_keeper);
+  ClientLogger<2> second(second_keeper);
   ASSERT_TRUE(JoinPlog<0>());
   ASSERT_TRUE(JoinPlog<2>());
   EXPECT_EQ(logging::kavrix_log_instance_id_, 2U);
@@ -79,9 +81,7 @@ TEST_F(TaggedLogPlogJoinTest, AnotherLoggerIsJoinedBesideTheFirst) {
 }
 
 TEST_F(TaggedLogPlogJoinTest, LoggerFiltersByItsSeverityAtThatTime) {
-  plog::Logger<0> logger;
-  logger.setMaxSeverity(plog::error);
-  logger.addAppender(&keeper_);
+  ClientLogger<0> logger(keeper_, plog::error);
   ASSERT_TRUE(JoinPlog());
   Reject();
   EXPECT_EQ(keeper_.messages.size(), 1U);
@@ -94,9 +94,7 @@ TEST_F(TaggedLogPlogJoinTest, LoggerFiltersByItsSeverityAtThatTime) {
 }
 
 TEST_F(TaggedLogPlogJoinTest, OptionsAreThoseOfTheSink) {
-  plog::Logger<0> logger;
-  logger.setMaxSeverity(plog::error);
-  logger.addAppender(&keeper_);
+  ClientLogger<0> logger(keeper_, plog::error);
   logging::PlogOptions options;
   options.tag_in_message = true;
   ASSERT_TRUE(JoinPlog(options));
@@ -110,9 +108,7 @@ TEST_F(TaggedLogPlogJoinTest, OptionsAreThoseOfTheSink) {
 }
 
 TEST_F(TaggedLogPlogJoinTest, RemovingTheInstanceLeavesPlog) {
-  plog::Logger<0> logger;
-  logger.setMaxSeverity(plog::info);
-  logger.addAppender(&keeper_);
+  ClientLogger<0> logger(keeper_);
   ASSERT_TRUE(JoinPlog());
   logging::SetLoggerInstance(0, {});
   Reject();
@@ -120,18 +116,14 @@ TEST_F(TaggedLogPlogJoinTest, RemovingTheInstanceLeavesPlog) {
 }
 
 TEST_F(TaggedLogPlogJoinTest, LogRecordsAfterTheEndOfTheLoggerAreDropped) {
-  auto logger = std::make_unique<plog::Logger<4>>();
-  logger->setMaxSeverity(plog::info);
-  logger->addAppender(&keeper_);
+  auto logger = std::make_unique<ClientLogger<4>>(keeper_);
   ASSERT_TRUE(JoinPlog<4>());
   Reject();
   EXPECT_EQ(keeper_.messages.size(), 2U);
   logger.reset();
   Reject();
   EXPECT_EQ(keeper_.messages.size(), 2U);
-  plog::Logger<4> next;
-  next.setMaxSeverity(plog::info);
-  next.addAppender(&keeper_);
+  ClientLogger<4> next(keeper_);
   Reject();
   EXPECT_EQ(keeper_.messages.size(), 4U);
 }
