@@ -19,7 +19,7 @@ Explanation ExplainBubbleName(const std::string& resource_name, const TransformS
 /// Explains a marker name likewise, as GetMarkerDrawDescriptor reads it.
 Explanation ExplainMarkerName(const std::string& resource_name, const TransformSetup& setup);
 
-/// Returns only the problems of a bubble name, in a tenth of the time.
+/// Returns only the problems of a bubble name, in a fraction of the time.
 std::vector<Problem> CheckBubbleName(const std::string& resource_name);
 /// Returns only the problems of a marker name.
 std::vector<Problem> CheckMarkerName(const std::string& resource_name);

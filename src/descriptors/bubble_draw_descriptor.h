@@ -19,9 +19,9 @@ namespace kavrix {
 ///
 /// The comment of a member says what fills it: a key of the name's JSON object or a field of the name, in
 /// quotes; a numbered value of the style record; or the parser itself. A key that is absent or of another
-/// type leaves the member as it was, as does a field that is not the number it should be. Members of 16 bits
-/// keep the low 16 bits of an integer. A kind fills only some of these members: those of its own comment or,
-/// when it has no class of its own, of its parser's in MapResourceTransform.
+/// type leaves the member as it was ("mode" aside), as does a field that is not the number it should be.
+/// Members of 16 bits keep the low 16 bits of an integer. A kind fills only some of these members: those of
+/// its own comment or, when it has no class of its own, of its parser's in MapResourceTransform.
 ///
 /// Codes and units that no comment explains are the client's own: the numbers are handed on as they are.
 class KAVRIX_EXPORT BubbleDrawDescriptor {
@@ -47,7 +47,7 @@ class KAVRIX_EXPORT BubbleDrawDescriptor {
   std::int16_t type = 0;          ///< Sub-type code: "type", unless the kind says otherwise.
   std::int16_t direction = 0;     ///< Side or direction code: "direction", or the number after `@`.
   /// Selects the first of two value sets of a style record: true when "mode" is 0, and when a JSON object has
-  /// no "mode".
+  /// no "mode" or one of another type.
   bool mode_flag = false;
   std::string style_name;              ///< Name of the style (image): that of the style record.
   std::string icon;                    ///< Icon name: "icon". Only route-explain bubbles have it.

@@ -37,9 +37,10 @@ class KAVRIX_EXPORT MapResourceTransform {
 
   /// Recognises the kind by its marker and decodes the name into a new descriptor in `out`. A name of a known
   /// kind always gives a descriptor to draw, however broken its payload is. Only a name without a marker, and
-  /// a safe-warning name whose payload is not two parts joined by `@`, leave `out` unchanged. Failures are
-  /// log records of level 1. Throws std::out_of_range for a name shorter than the prefix (kinds that read the
-  /// whole name do not), and what the standard library throws when memory runs out.
+  /// a safe-warning name whose payload is not two parts joined by `@`, leave `out` unchanged. Failures that a
+  /// kind reports are log records of level kFailure; some kinds of broken payloads are reported by none.
+  /// Throws std::out_of_range for a name shorter than the prefix (kinds that read the whole name do not), and
+  /// what the standard library throws when memory runs out.
   void GetBubbleDrawDescriptor(const std::string& resource_name, std::shared_ptr<BubbleDrawDescriptor>& out);
 
   /// Decodes the name of a map marker: prefix, JSON object, ".marker". `out` becomes a new

@@ -26,8 +26,7 @@ KAVRIX_EXPORT std::vector<std::string> SplitString(const std::string& input, con
                                                    WhitespaceHandling whitespace, SplitResult result);
 
 /// Returns true when the whole of `text` is a decimal integer that fits a signed 32-bit int, with an optional
-/// leading
-/// '+' or '-' and no blanks; stores it in `value`. On false `value` is unchanged.
+/// leading '+' or '-' and no blanks; stores it in `value`. On false `value` is unchanged.
 KAVRIX_EXPORT bool StringToInt(const std::string& text, int* value);
 
 /// Returns a copy with A to Z replaced by a to z; every other byte, also of UTF-8 sequences, is unchanged.

@@ -22,7 +22,8 @@ namespace kavrix::logging {
 /// How severe a log record is.
 enum class LogLevel {
   kRoutine = 0,  ///< what was received, what was built
-  kFailure = 1,  ///< a name that cannot be used, a payload that does not parse
+  kFailure = 1,  ///< a name that cannot be used, a payload that does not parse; also every good payload of an
+                 ///< underground-park, force-dot or force-poll bubble
 };
 
 /// One log record as a sink sees it. The references are valid only during the call.
