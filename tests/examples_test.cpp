@@ -37,7 +37,7 @@ TEST(ExamplesTest, DocumentsQuoteEachProgramAndWhatItPrints) {
     const std::string program = Indented(ReadFile(file.path()));
     EXPECT_NE(quotes.find(program), std::string::npos) << file.path() << " is not quoted:\n" << program;
     const ToolResult result =
-        RunShell("'" KAVRIX_EXAMPLES_DIR "/example_" + file.path().stem().string() + "'");
+        RunShell(KAVRIX_EMULATOR " '" KAVRIX_EXAMPLES_DIR "/example_" + file.path().stem().string() + "'");
     EXPECT_EQ(result.status, 0) << file.path();
     EXPECT_NE(result.output, "") << file.path();
     EXPECT_NE(quotes.find("\n" + Indented(WithoutSourceLines(result.output))), std::string::npos)
