@@ -54,8 +54,7 @@ void AddBulkOptions(Command& command, BulkOptions& options) {
 }
 
 void AddInputOption(Command& command, BulkOptions& options, const std::string& what) {
-  command.Text("--input FILE", options.input,
-               "File to read " + what + " from, one a line, instead of standard input (\"-\")");
+  command.Text("--input FILE", options.input, "File to read " + what + ", instead of standard input (\"-\")");
 }
 
 TextNames InputNames(const BulkOptions& options) {

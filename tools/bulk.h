@@ -41,7 +41,7 @@ void AddJobs(Command& command, BulkOptions& options);
 // Adds --jobs and --unbuffered.
 void AddBulkOptions(Command& command, BulkOptions& options);
 
-// Adds --input to a command. `what` is what the file holds, one a line.
+// Adds --input to a command. `what` is what is read from the file: "names from, one a line".
 void AddInputOption(Command& command, BulkOptions& options, const std::string& what);
 
 // Returns the names of the file or of standard input. Throws UsageError when names are given as arguments

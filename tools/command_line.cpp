@@ -17,15 +17,15 @@ namespace {
 
 constexpr int kUsageTrouble = 2;
 
-const OptionHelp kHelpOption = {"--help", "", "Print this help and exit", {}};
-const OptionHelp kVersionOption = {"--version", "", "Print the version and exit", {}};
+const OptionHelp kHelpOption = {"--help", "", "", "Print this help and exit", {}};
+const OptionHelp kVersionOption = {"--version", "", "", "Print the version and exit", {}};
 
 // Takes an option such as "--config FILE" apart.
 const OptionHelp& AddOption(CommandHelp& command, const std::string& option, const std::string& help,
                             const Words& words = {}) {
   const std::size_t end = std::min(option.find(' '), option.size());
   const std::string value = option.substr(std::min(end + 1, option.size()));
-  return command.options.emplace_back(OptionHelp{option.substr(0, end), value, help, words});
+  return command.options.emplace_back(OptionHelp{option.substr(0, end), value, "", help, words});
 }
 
 std::string FooterOf(const CommandHelp& command) {
@@ -53,13 +53,13 @@ const CLI::App* CalledCommand(const CLI::App& app, int argc, const char* const* 
   throw UnknownCommand(argv[1], names);
 }
 
-// Names the option that an argument was probably meant to be.
-std::string HintFor(const CLI::App& command, int argc, const char* const* argv) {
+// Names the option that an argument, from the `first` on, was probably meant to be.
+std::string HintFor(const CLI::App& command, int argc, const char* const* argv, int first) {
   std::vector<std::string> options;
   for (const CLI::Option* const option : command.get_options()) {
     for (const std::string& name : option->get_lnames()) options.push_back("--" + name);
   }
-  for (int i = 2; i < argc; ++i) {
+  for (int i = first; i < argc; ++i) {
     const std::string_view argument(argv[i]);
     const std::string option(argument.substr(0, argument.find('=')));
     const bool is_known = std::find(options.begin(), options.end(), option) != options.end();
@@ -107,10 +107,14 @@ void UnmarkNames(CLI::App& command) {
 
 }  // namespace
 
-void Command::Arguments(const std::string& value_name, std::vector<std::string>& values,
-                        const std::string& help, const Words& words) {
-  app_.add_option(value_name, values, help)->type_name("");
-  help_.arguments = OptionHelp{"", value_name, help, words};
+void Command::Arguments(const std::string& usage, std::vector<std::string>& values, const std::string& help,
+                        const Words& words) {
+  std::string value;
+  std::copy_if(usage.begin(), usage.end(), std::back_inserter(value),
+               [](char c) { return c != '[' && c != ']' && c != '.'; });
+  CLI::Option* const option = app_.add_option(value, values, help)->type_name("");
+  if (usage.back() != '.') option->expected(0, 1);
+  help_.arguments = OptionHelp{"", value, usage, help, words};
 }
 
 void Command::Text(const std::string& option, std::optional<std::string>& value, const std::string& help,
@@ -167,9 +171,12 @@ CommandHelp DescribeTool() {
   CommandHelp tool;
   tool.help = "Decode, explain and build the resource names of map bubbles";
   tool.options = {kHelpOption, kVersionOption};
-  tool.details = "Data goes to standard output, everything else to standard error.";
+  tool.details =
+      "A map engine asks its client for the picture of a bubble by one string, the resource name.\n"
+      "Data goes to standard output, everything else to standard error. Colour is used only on a\n"
+      "terminal, and not when the environment variable NO_COLOR is set.";
   tool.exit_status =
-      "0 success; 1 a name, bubble or query failed, or check or compare found something;\n"
+      "0 success; 1 a name, bubble or query failed, or check, compare or config --check found something;\n"
       "2 usage, input or output error; 141 the reader of the output went away.";
   return tool;
 }
@@ -211,7 +218,8 @@ int RunCommandLine(const Commands& commands, int argc, const char* const* argv) 
     app.parse(MarkNames(argc, argv));
     return called();
   } catch (const CLI::ParseError& error) {
-    return Report(app, error, command == nullptr ? "" : HintFor(*command, argc, argv));
+    return Report(app, error,
+                  command == nullptr ? HintFor(app, argc, argv, 1) : HintFor(*command, argc, argv, 2));
   } catch (const UsageError& error) {
     return ReportUsageError(error);
   }

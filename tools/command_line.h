@@ -27,6 +27,7 @@ using Words = std::vector<std::string>;
 struct OptionHelp {
   std::string name;   // "--config", or "" for the arguments
   std::string value;  // what it takes, such as "FILE" for a path; empty for a flag
+  std::string usage;  // of arguments: how many there may be, "FILE", "[FILE]" or "[FILE]..."
   std::string help;
   Words words;  // to complete the value with
 };
@@ -48,7 +49,8 @@ class Command {
  public:
   Command(CLI::App& app, CommandHelp& help) : app_(app), help_(help) {}
 
-  void Arguments(const std::string& value_name, std::vector<std::string>& values, const std::string& help,
+  // `usage` says how many there may be: "FILE", "[FILE]" or "[FILE]...".
+  void Arguments(const std::string& usage, std::vector<std::string>& values, const std::string& help,
                  const Words& words = {});
   void Text(const std::string& option, std::optional<std::string>& value, const std::string& help,
             const Words& words = {});

@@ -17,9 +17,9 @@ _kavrix_resource()
   local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
   local words='' files='' options=''
   # Bash takes --format=json for three words.
-  if [[ $current == '=' ]]; then
+  if [[ $current == '=' && $previous == --* ]]; then
     current=
-  elif [[ $previous == '=' ]]; then
+  elif [[ $previous == '=' && ${COMP_WORDS[COMP_CWORD - 2]} == --* ]]; then
     previous=${COMP_WORDS[COMP_CWORD - 2]}
   fi
   local command=
@@ -31,10 +31,10 @@ constexpr char kEnd[] = R"(  esac
   if [[ $current == -* || -z $words$files ]]; then
     words=$options files=
   fi
-  if [[ -n $files ]]; then
-    compopt -o filenames 2>/dev/null || true # it is refused outside of readline
-    mapfile -t COMPREPLY < <(compgen -f -- "$current")
-  else
+  COMPREPLY=()
+  if [[ -n $files || $previous == [\<\>]* ]]; then
+    compopt -o default 2>/dev/null || true # files, as bash completes them; it is refused outside of readline
+  elif [[ $current != '=' && $previous != '=' ]]; then
     mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")
   fi
 }
@@ -86,7 +86,7 @@ CommandDescription CompletionCommand(Commands (*all)()) {
     const auto shells = std::make_shared<std::vector<std::string>>();
     command.Arguments("SHELL", *shells, "The shell that the script is for: bash", {"bash"});
     command.Details("Prints a script that completes commands, options, their values and files.");
-    command.ExitStatus("0 success; 2 usage or output error, also for another shell.");
+    command.ExitStatus("0 success; 2 usage or output error, such as an unknown shell.");
     command.Example("eval \"$(kavrix-resource completion bash)\"");
     return [shells, all] { return Run(*shells, all()); };
   };

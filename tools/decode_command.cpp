@@ -62,12 +62,13 @@ CommandDescription DecodeCommand() {
   const auto list_options = [](Command& command) -> std::function<int()> {
     const auto options = std::make_shared<DecodeOptions>();
     AddNameOptions(command, options->names);
+    AddContextName(command, options->names);
     AddFormatOption(command, options->format, {"text", "json"});
     command.Flag("--fields", options->fields, "Print the fields of each name as JSON that encode reads");
     command.Flag("--all", options->all_members, "In text format, also show members that hold their defaults");
     command.Details("Put \"--\" before a name that begins with a dash.");
     command.ExitStatus(
-        "0 every name decoded; 1 a name failed (no marker, a payload that does not parse,\n"
+        "0 every name decoded; 1 a name failed (no marker, a payload that its kind reports,\n"
         "an exception); 2 usage, input or output error. A failed name does not stop the others.");
     command.Example("kavrix-resource decode 'kavrix://resource/Main St_0@12.labelBubble'");
     command.Example("kavrix-resource decode --input names.txt > descriptors.jsonl");

@@ -48,7 +48,8 @@ int Run(const NameOptions& options) {
 CommandDescription DrawCommand() {
   const auto list_options = [](Command& command) -> std::function<int()> {
     const auto options = std::make_shared<NameOptions>();
-    AddDrawnNameOptions(command, *options, "One resource name; without it, read from standard input");
+    AddDrawnNameOptions(command, *options, "[NAME]",
+                        "One resource name; without it, read from standard input");
     command.Details(
         "Prints one SVG. The picture is schematic: it shows what a descriptor says, not how a client draws "
         "it.");

@@ -73,12 +73,12 @@ int Run(const EncodeOptions& options) {
 CommandDescription EncodeCommand() {
   const auto list_options = [](Command& command) -> std::function<int()> {
     const auto options = std::make_shared<EncodeOptions>();
-    command.Arguments("FIELDS", options->bulk.names,
+    command.Arguments("[FIELDS]...", options->bulk.names,
                       "JSON objects of fields, with --kind; without any, read lines "
                       "{\"kind\": ..., \"fields\": ...} from standard input");
     command.Text("--kind KIND", options->kind,
                  "The kind of all bubbles; each line of input is then only its fields", KindNames());
-    AddInputOption(command, options->bulk, "lines");
+    AddInputOption(command, options->bulk, "bubbles from, one a line");
     command.Text("--prefix TEXT", options->prefix, "Prefix of the names instead of kavrix://resource/");
     command.Flag("--null", options->null_delimited, "End names in NUL, not newline");
     AddBulkOptions(command, options->bulk);

@@ -190,7 +190,7 @@ int Run(const NameOptions& options) {
 CommandDescription GalleryCommand() {
   const auto list_options = [](Command& command) -> std::function<int()> {
     const auto options = std::make_shared<NameOptions>();
-    AddDrawnNameOptions(command, *options,
+    AddDrawnNameOptions(command, *options, "[NAME]...",
                         "Resource names; without any, read one a line from standard input");
     AddJobs(command, options->bulk);
     options->bulk.prints_results = false;

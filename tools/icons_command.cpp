@@ -103,7 +103,7 @@ int Run(const IconsOptions& options) {
 CommandDescription IconsCommand() {
   const auto list_options = [](Command& command) -> std::function<int()> {
     const auto options = std::make_shared<IconsOptions>();
-    command.Arguments("QUERY", options->queries,
+    command.Arguments("[QUERY]...", options->queries,
                       "Ids (65537, 0x10001) or parts of descriptions; without any, show all icons");
     AddFormatOption(command, options->format, {"text", "json"});
     command.ExitStatus("0 success; 1 a query finds no icon; 2 usage or output error.");

@@ -130,11 +130,11 @@ int Run(const KindsOptions& options) {
 CommandDescription KindsCommand() {
   const auto list_options = [](Command& command) -> std::function<int()> {
     const auto options = std::make_shared<KindsOptions>();
-    command.Arguments("KIND", options->names,
+    command.Arguments("[KIND]...", options->names,
                       "Kinds, such as etaBubble, or \"marker\" for marker names; without any, show all",
                       KindNames());
     AddFormatOption(command, options->format, {"text", "json", "markdown"});
-    command.ExitStatus("0 success; 2 usage or output error, also for a kind that there is not.");
+    command.ExitStatus("0 success; 2 usage or output error, such as an unknown kind.");
     command.Example("kavrix-resource kinds --format text lightWaitBubble");
     return [options] { return Run(*options); };
   };

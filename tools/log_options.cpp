@@ -20,7 +20,7 @@ void LogOptions::Apply(bool finds_names) const {
 
 void AddLogOptions(Command& command, LogOptions& options, const std::string& help,
                    const std::string& json_help) {
-  command.Arguments("FILE", options.files, help);
+  command.Arguments("[FILE]...", options.files, help);
   command.Flag("--json", options.json, json_help);
   command.Text("--prefix TEXT", options.prefix, "Prefix of the names instead of kavrix://resource/");
 }

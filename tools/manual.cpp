@@ -80,25 +80,32 @@ std::string EntryOf(const OptionHelp& option) {
   return Entry(head, option.help + '.');
 }
 
+std::string UsageOf(const OptionHelp& arguments) {
+  const std::size_t begin = arguments.usage.find(arguments.value);
+  return arguments.usage.substr(0, begin) + Italic(arguments.value) +
+         arguments.usage.substr(begin + arguments.value.size());
+}
+
 std::string OptionsOf(const CommandHelp& command) {
   std::string entries;
   if (command.arguments) {
-    entries += Entry(Italic(command.arguments->value) + "...", command.arguments->help + '.');
+    const bool many = command.arguments->usage.back() == '.';
+    entries += Entry(Italic(command.arguments->value) + (many ? "..." : ""), command.arguments->help + '.');
   }
   for (const OptionHelp& option : command.options) entries += EntryOf(option);
   return entries;
 }
 
+// The NAME section has the summary.
 std::string DescriptionOf(const CommandHelp& command) {
-  const std::string details = command.details.empty() ? "" : "\n.PP\n" + Escaped(command.details);
-  return Escaped(command.help) + '.' + details;
+  return Escaped(command.details.empty() ? command.help + '.' : command.details);
 }
 
 }  // namespace
 
 std::string ManualOf(const CommandHelp& command) {
   std::string synopsis = Bold(std::string(kTool) + ' ' + command.name) + " [" + Italic("OPTION") + "]...";
-  if (command.arguments) synopsis += " [" + Italic(command.arguments->value) + "]...";
+  if (command.arguments) synopsis += ' ' + UsageOf(*command.arguments);
   std::string examples;
   for (const std::string& example : command.examples) examples += ".PP\n.EX\n" + Escaped(example) + "\n.EE\n";
   return Head(PageName(command.name), command.help, synopsis) +

@@ -16,7 +16,6 @@ std::string ManualCalled(const std::string& name, const Commands& commands) {
 }
 
 int Run(const std::vector<std::string>& names, const Commands& commands) {
-  if (names.size() > 1) throw UsageError("expected the name of one command");
   Output output(false);
   output.Write(names.empty() ? ManualOfTool(DescribeTool(), DescribeCommands(commands))
                              : ManualCalled(names[0], commands));
@@ -29,10 +28,10 @@ int Run(const std::vector<std::string>& names, const Commands& commands) {
 CommandDescription ManualCommand(Commands (*all)()) {
   const auto list_options = [all](Command& command) -> std::function<int()> {
     const auto names = std::make_shared<std::vector<std::string>>();
-    command.Arguments("COMMAND", *names, "The command that the page is of; without it, the tool itself",
+    command.Arguments("[COMMAND]", *names, "The command that the page is of; without it, the tool itself",
                       NamesOf(all()));
     command.Details("Prints the page as roff, which man displays.");
-    command.ExitStatus("0 success; 2 usage or output error, also for a command that there is not.");
+    command.ExitStatus("0 success; 2 usage or output error, such as an unknown command.");
     command.Example("kavrix-resource manual decode | man -l -");
     return [names, all] { return Run(*names, all()); };
   };

@@ -5,7 +5,7 @@
 namespace kavrix::tools {
 
 bool NameOptions::IsAnyGivenBesidesNames() const {
-  return prefix || context_name || marker || bulk.input || bulk.null_delimited || bulk.jobs != 1;
+  return prefix || marker || bulk.input || bulk.null_delimited || bulk.jobs != 1;
 }
 
 inspect::TransformSetup NameOptions::Apply() const {
@@ -15,19 +15,15 @@ inspect::TransformSetup NameOptions::Apply() const {
 
 namespace {
 
-void AddNames(Command& command, NameOptions& options, const std::string& help) {
-  command.Arguments("NAME", options.bulk.names, help);
+void AddNames(Command& command, NameOptions& options, const std::string& usage, const std::string& help) {
+  command.Arguments(usage, options.bulk.names, help);
   command.Text("--prefix TEXT", options.prefix, "Prefix of the names instead of kavrix://resource/");
   command.Flag("--marker", options.marker, "The names are marker names, not bubble names");
 }
 
-void AddInput(Command& command, NameOptions& options) {
-  AddInputOption(command, options.bulk, "names");
+void AddInput(Command& command, NameOptions& options, const std::string& what = "names from, one a line") {
+  AddInputOption(command, options.bulk, what);
   command.Flag("--null", options.bulk.null_delimited, "Names in the input end in NUL, not newline");
-}
-
-void AddContextName(Command& command, NameOptions& options) {
-  command.Text("--context-name TEXT", options.context_name, "Context name in the log records");
 }
 
 void AddConfig(Command& command, NameOptions& options) {
@@ -36,6 +32,10 @@ void AddConfig(Command& command, NameOptions& options) {
 
 }  // namespace
 
+void AddContextName(Command& command, NameOptions& options) {
+  command.Text("--context-name TEXT", options.context_name, "Context name in the log records");
+}
+
 void AddNameOptions(Command& command, NameOptions& options) {
   AddNameOptionsBesidesConfig(command, options,
                               "Resource names; without any, read one a line from standard input");
@@ -43,15 +43,19 @@ void AddNameOptions(Command& command, NameOptions& options) {
 }
 
 void AddNameOptionsBesidesConfig(Command& command, NameOptions& options, const std::string& help) {
-  AddNames(command, options, help);
-  AddContextName(command, options);
+  AddNames(command, options, "[NAME]...", help);
   AddBulkOptions(command, options.bulk);
   AddInput(command, options);
 }
 
-void AddDrawnNameOptions(Command& command, NameOptions& options, const std::string& help) {
-  AddNames(command, options, help);
-  AddInput(command, options);
+void AddDrawnNameOptions(Command& command, NameOptions& options, const std::string& usage,
+                         const std::string& help) {
+  AddNames(command, options, usage, help);
+  if (usage == "[NAME]") {
+    AddInput(command, options, "the name from");
+  } else {
+    AddInput(command, options);
+  }
   AddConfig(command, options);
 }
 

@@ -33,8 +33,12 @@ void AddNameOptions(Command& command, NameOptions& options);
 // All of them but --config. `help` is of the names.
 void AddNameOptionsBesidesConfig(Command& command, NameOptions& options, const std::string& help);
 
-// Those that change a picture, which shows no log records.
-void AddDrawnNameOptions(Command& command, NameOptions& options, const std::string& help);
+// For the commands that show log records.
+void AddContextName(Command& command, NameOptions& options);
+
+// Those that change a picture. `usage` says how many names there may be.
+void AddDrawnNameOptions(Command& command, NameOptions& options, const std::string& usage,
+                         const std::string& help);
 
 }  // namespace kavrix::tools
 

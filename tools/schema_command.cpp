@@ -89,7 +89,6 @@ std::string List() {
 }
 
 int Run(const std::vector<std::string>& names) {
-  if (names.size() > 1) throw UsageError("expected the name of one schema");
   Output output(false);
   output.Write(names.empty() ? List() : SchemaCalled(names[0]));
   output.Flush();
@@ -101,13 +100,13 @@ int Run(const std::vector<std::string>& names) {
 CommandDescription SchemaCommand() {
   const auto list_options = [](Command& command) -> std::function<int()> {
     const auto names = std::make_shared<std::vector<std::string>>();
-    command.Arguments("NAME", *names, "What the schema is of; without it, list the names", Names());
+    command.Arguments("[NAME]", *names, "What the schema is of; without it, list the names", Names());
     command.Details(
         "Prints a JSON Schema (draft 2020-12) that stands alone: \"config\" is of the configuration file,\n"
         "\"encode\" of a line that encode reads, every other of a line that the command prints as JSON.\n"
         "\"compare\" is of two names, \"compare-each\" of two configurations or two outputs of decode,\n"
         "\"compare-summary\" of --summary.");
-    command.ExitStatus("0 success; 2 usage or output error, also for a schema that there is not.");
+    command.ExitStatus("0 success; 2 usage or output error, such as an unknown schema.");
     command.Example("kavrix-resource schema config > config.schema.json");
     return [names] { return Run(*names); };
   };

@@ -40,6 +40,7 @@ CommandDescription ShrinkCommand() {
   const auto list_options = [](Command& command) -> std::function<int()> {
     const auto options = std::make_shared<ShrinkOptions>();
     AddNameOptions(command, options->names);
+    AddContextName(command, options->names);
     AddFormatOption(command, options->format, {"text", "json"});
     command.Details(
         "Prints the smallest name found that fails in the same way: it is of the same kind, its first error\n"

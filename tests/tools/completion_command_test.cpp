@@ -16,7 +16,6 @@ using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-using ::testing::UnorderedElementsAre;
 
 // A folder with files to complete.
 class Folder {
@@ -40,11 +39,11 @@ std::string Script() { return RunTool({"completion", "bash"}).output; }
 
 // What bash would offer for the last of the words, in a shell that has read only the script and stops at
 // errors and unset variables.
-std::vector<std::string> Completions(const std::vector<std::string>& words, const std::string& folder = "/") {
+std::vector<std::string> Completions(const std::vector<std::string>& words) {
   const std::string run =
-      "set -eu; cd \"$1\"; eval \"$(cat)\"; shift; COMP_WORDS=(\"$@\"); COMP_CWORD=$(($# - 1));"
+      "set -eu; eval \"$(cat)\"; COMP_WORDS=(\"$@\"); COMP_CWORD=$(($# - 1));"
       "_kavrix_resource; ((${#COMPREPLY[@]} == 0)) || printf '%s\\n' \"${COMPREPLY[@]}\"";
-  std::vector<std::string> command = {"/bin/bash", "--norc", "-c", run, "bash", folder, "kavrix-resource"};
+  std::vector<std::string> command = {"/bin/bash", "--norc", "-c", run, "bash", "kavrix-resource"};
   command.insert(command.end(), words.begin(), words.end());
   const ToolResult result = RunProgram(command, Script());
   EXPECT_EQ(result.status, 0);
@@ -70,7 +69,7 @@ TEST(CompletionCommandTest, EveryOptionOfEveryCommandIsCompleted) {
     EXPECT_THAT(options, Contains("--help"));
     EXPECT_THAT(Completions({command, "--"}), ElementsAreArray(options)) << command;
   }
-  EXPECT_THAT(Completions({"decode", "--null", "--co"}), ElementsAre("--context-name", "--config"));
+  EXPECT_THAT(Completions({"decode", "--null", "--co"}), ElementsAre("--config", "--context-name"));
   EXPECT_THAT(Completions({"decode", "--none"}), IsEmpty());
 }
 
@@ -87,25 +86,14 @@ TEST(CompletionCommandTest, ValuesAreCompletedByWhatTheOptionTakes) {
   EXPECT_THAT(Completions({"decode", "--jobs", ""}), IsEmpty());
 }
 
-TEST(CompletionCommandTest, FilesAreCompletedWhereAFileIsTaken) {
-  const Folder folder;
-  EXPECT_THAT(Completions({"decode", "--config", "my"}, folder.path()),
-              UnorderedElementsAre("my config.json", "my log.txt"));
-  EXPECT_THAT(Completions({"config", "--check", "=", "my c"}, folder.path()), ElementsAre("my config.json"));
-  EXPECT_THAT(Completions({"extract", ""}, folder.path()),
-              UnorderedElementsAre("my config.json", "my log.txt", "other", "sub folder"));
-  EXPECT_THAT(Completions({"extract", "--un"}, folder.path()), ElementsAre("--unbuffered", "--unique"));
-  EXPECT_THAT(Completions({"decode", "my"}, folder.path()), IsEmpty()) << "decode takes names";
-}
-
-// Types into a shell on a terminal, where readline quotes what it completes.
-TEST(CompletionCommandTest, BlanksInFileNamesAreQuotedInTheShell) {
-  const Folder folder;
+// Types a command into a shell on a terminal, where readline completes files and quotes them, and returns the
+// words that the tool would get.
+std::string Typed(const Folder& folder, const std::string& arguments) {
   std::ofstream(folder.path() + "/script") << Script();
   const std::string typed = "cd " + folder.path() +
                             "; . ./script; kavrix-resource() { printf '<%s>' \"$@\" > shown; }\n"
-                            "kavrix-resource check --config my\\ c\t --input sub\t\n"
-                            "exit\n";
+                            "kavrix-resource " +
+                            arguments + "\nexit\n";
   const ToolResult shell = RunProgram(
       {"/usr/bin/script", "--quiet", "--command", "TERM=dumb /bin/bash --norc --noprofile -i", "/dev/null"},
       typed);
@@ -113,15 +101,46 @@ TEST(CompletionCommandTest, BlanksInFileNamesAreQuotedInTheShell) {
   std::ifstream shown(folder.path() + "/shown");
   std::string words;
   std::getline(shown, words);
-  EXPECT_EQ(words, "<check><--config><my config.json><--input><sub folder/>") << shell.output;
+  return words;
+}
+
+TEST(CompletionCommandTest, FilesAreCompletedWhereAFileIsTaken) {
+  const Folder folder;
+  EXPECT_EQ(Typed(folder, "check --config my\\ c\t --input sub\t"),
+            "<check><--config><my config.json><--input><sub folder/>");
+  EXPECT_EQ(Typed(folder, "config --check=\"my c\t"), "<config><--check=my config.json>");
+  EXPECT_EQ(Typed(folder, "extract oth\t"), "<extract><other>");
+  EXPECT_EQ(Typed(folder, "decode oth\t"), "<decode><oth>") << "decode takes names";
+  EXPECT_THAT(Completions({"extract", "--un"}), ElementsAre("--unbuffered", "--unique"));
+}
+
+TEST(CompletionCommandTest, FilesAreCompletedAfterARedirection) {
+  const Folder folder;
+  std::filesystem::remove(folder.path() + "/my config.json");
+  EXPECT_EQ(Typed(folder, "config --default > my\t"), "<config><--default>");
+  EXPECT_FALSE(std::filesystem::exists(folder.path() + "/my"))
+      << "the shell got a name that was not completed";
+  EXPECT_EQ(Typed(folder, "check --config oth\t < my\t"), "<check><--config><other>");
+}
+
+TEST(CompletionCommandTest, EqualsSignsOfNamesAndFilesAreNoOptions) {
+  const Folder folder;
+  std::ofstream(folder.path() + "/a=b.json");
+  EXPECT_EQ(Typed(folder, "decode x a=\t"), "<decode><x><a=>");
+  EXPECT_EQ(Typed(folder, "decode --config a=\t"), "<decode><--config><a=>");
+  EXPECT_THAT(Completions({"decode", "a", "="}), IsEmpty());
+  EXPECT_THAT(Completions({"decode", "a", "=", "te"}), IsEmpty());
 }
 
 TEST(CompletionCommandTest, OtherShellsAreUsageErrors) {
-  for (const auto& result : {RunTool({"completion"}), RunTool({"completion", "fish"})}) {
-    EXPECT_EQ(result.status, 2);
-    EXPECT_EQ(result.output, "");
-    EXPECT_THAT(result.errors, HasSubstr("expected the name of a shell: bash\n"));
-  }
+  const ToolResult other = RunTool({"completion", "fish"});
+  EXPECT_EQ(other.status, 2);
+  EXPECT_EQ(other.output, "");
+  EXPECT_THAT(other.errors, HasSubstr("expected the name of a shell: bash\n"));
+  const ToolResult none = RunTool({"completion"});
+  EXPECT_EQ(none.status, 2);
+  EXPECT_EQ(none.output, "");
+  EXPECT_THAT(none.errors, HasSubstr("expected the name of a shell: bash\n"));
 }
 
 }  // namespace

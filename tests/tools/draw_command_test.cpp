@@ -41,12 +41,15 @@ TEST(DrawCommandTest, DrawsEverySample) {
 }
 
 TEST(DrawCommandTest, TakesExactlyOneName) {
-  for (const ToolResult& result :
-       {RunTool({"draw"}), RunTool({"draw", kJam, kJam}), RunTool({"draw"}, "a\nb\n")}) {
+  for (const ToolResult& result : {RunTool({"draw"}), RunTool({"draw"}, "a\nb\n")}) {
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.output, "");
     EXPECT_THAT(result.errors, HasSubstr("expected one name"));
   }
+  const ToolResult two = RunTool({"draw", kJam, "second"});
+  EXPECT_EQ(two.status, 2);
+  EXPECT_EQ(two.output, "");
+  EXPECT_THAT(two.errors, HasSubstr("NAME: At Most 1 required but received 2"));
 }
 
 TEST(DrawCommandTest, BrokenNameIsDrawnAsFarAsItDecodes) {

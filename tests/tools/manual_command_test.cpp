@@ -82,7 +82,7 @@ TEST(ManualCommandTest, CharactersThatRoffReadsArePrintedAsTheyAre) {
   command.details =
       ".PP is no request\n'nor this: C:\\new\\\\ ^caret ~tilde `tick` --option \"text\" \\fBbold.";
   command.exit_status = ".0";
-  command.options = {{"--with-dash", "A-B", ".leading dot", {}}};
+  command.options = {{"--with-dash", "A-B", "", ".leading dot", {}}};
   command.examples = {".profile 'a b' ~/x^2 `cat` \\n"};
   const std::string page = Rendered(tools::ManualOf(command));
   for (const std::string text :
@@ -92,6 +92,19 @@ TEST(ManualCommandTest, CharactersThatRoffReadsArePrintedAsTheyAre) {
         "EXAMPLES\n       .profile 'a b' ~/x^2 `cat` \\n\n"}) {
     EXPECT_THAT(page, HasSubstr(text));
   }
+}
+
+TEST(ManualCommandTest, SynopsisSaysHowManyArgumentsThereMayBe) {
+  const auto synopsis = [](const std::string& command) {
+    const std::string page = Rendered(RunTool({"manual", command}).output);
+    const std::size_t begin = page.find("kavrix-resource " + command + " [OPTION]...");
+    return page.substr(begin, page.find('\n', begin) - begin);
+  };
+  EXPECT_EQ(synopsis("decode"), "kavrix-resource decode [OPTION]... [NAME]...");
+  EXPECT_EQ(synopsis("draw"), "kavrix-resource draw [OPTION]... [NAME]");
+  EXPECT_EQ(synopsis("completion"), "kavrix-resource completion [OPTION]... SHELL");
+  EXPECT_EQ(synopsis("config"), "kavrix-resource config [OPTION]...");
+  EXPECT_THAT(RunTool({"draw", "--help"}).output, HasSubstr("draw [OPTIONS] [NAME]\n"));
 }
 
 TEST(ManualCommandTest, UnknownCommandsAreUsageErrorsWithTheNearest) {
