@@ -34,7 +34,8 @@ std::string HeadComment(const std::string& text) {
 }
 
 std::vector<std::string> Scripts() {
-  std::vector<std::string> paths = {KAVRIX_SOURCE_DIR "/examples/cluster/mapper",
+  std::vector<std::string> paths = {KAVRIX_SOURCE_DIR "/.ci/run",
+                                    KAVRIX_SOURCE_DIR "/examples/cluster/mapper",
                                     KAVRIX_SOURCE_DIR "/examples/cluster/reducer"};
   for (const auto& entry : std::filesystem::directory_iterator(KAVRIX_SOURCE_DIR "/scripts")) {
     const std::string path = entry.path();
