@@ -14,7 +14,7 @@ class Appender : public plog::IAppender {
 
 int main() {
   Appender appender;       // or any of plog's own
-  plog::Logger<0> logger;  // plog::init makes such a one
+  plog::Logger<0> logger;  // plog::init makes one of these
   logger.setMaxSeverity(plog::info);
   logger.addAppender(&appender);
   kavrix::logging::JoinPlog<0>();

@@ -68,7 +68,7 @@ CommandDescription DecodeCommand() {
     command.Flag("--all", options->all_members, "In text format, also show members that hold their defaults");
     command.Details("Put \"--\" before a name that begins with a dash.");
     command.ExitStatus(
-        "0 every name decoded; 1 a name failed (no marker, a payload that its kind reports,\n"
+        "0 every name decoded; 1 a name failed (no marker, a payload reported as broken,\n"
         "an exception); 2 usage, input or output error. A failed name does not stop the others.");
     command.Example("kavrix-resource decode 'kavrix://resource/Main St_0@12.labelBubble'");
     command.Example("kavrix-resource decode --input names.txt > descriptors.jsonl");
