@@ -6,10 +6,6 @@
 namespace kavrix::test {
 namespace {
 
-using inspect::ExtractedName;
-using inspect::LineError;
-using inspect::LogLines;
-using inspect::NameExtractor;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 

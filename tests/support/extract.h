@@ -8,6 +8,11 @@
 
 namespace kavrix::test {
 
+using inspect::ExtractedName;
+using inspect::LineError;
+using inspect::LogLines;
+using inspect::NameExtractor;
+
 inline const std::string kPrefix = "kavrix://resource/";
 
 // The beginning of a message of the library's own log, up to the name.
@@ -20,31 +25,29 @@ struct Extracted {
   std::vector<std::string> errors;  // each as "LINE:BYTE EXPECTED"
 };
 
-inline Extracted ExtractWithPlaces(const std::string& text,
-                                   inspect::LogLines lines = inspect::LogLines::kCountedText) {
-  inspect::NameExtractor extractor(lines);
-  std::vector<inspect::ExtractedName> names;
-  std::vector<inspect::LineError> errors;
+inline Extracted ExtractWithPlaces(const std::string& text, LogLines lines = LogLines::kCountedText) {
+  NameExtractor extractor(lines);
+  std::vector<ExtractedName> names;
+  std::vector<LineError> errors;
   extractor.Extract(text, names, errors);
   Extracted extracted;
-  for (const inspect::ExtractedName& name : names) {
+  for (const ExtractedName& name : names) {
     extracted.names.push_back(std::to_string(name.line) + ":" + std::to_string(name.byte) + " " + name.name);
   }
-  for (const inspect::LineError& line : errors) {
+  for (const LineError& line : errors) {
     extracted.errors.push_back(std::to_string(line.line) + ":" + std::to_string(line.error.at) + " " +
                                line.error.expected);
   }
   return extracted;
 }
 
-inline std::vector<std::string> Extract(const std::string& text,
-                                        inspect::LogLines lines = inspect::LogLines::kText) {
-  inspect::NameExtractor extractor(lines);
-  std::vector<inspect::ExtractedName> names;
-  std::vector<inspect::LineError> errors;
+inline std::vector<std::string> Extract(const std::string& text, LogLines lines = LogLines::kText) {
+  NameExtractor extractor(lines);
+  std::vector<ExtractedName> names;
+  std::vector<LineError> errors;
   extractor.Extract(text, names, errors);
   std::vector<std::string> texts;
-  for (const inspect::ExtractedName& name : names) texts.push_back(name.name);
+  for (const ExtractedName& name : names) texts.push_back(name.name);
   return texts;
 }
 
