@@ -15,13 +15,15 @@ inspect::TransformSetup NameOptions::Apply() const {
 
 namespace {
 
+constexpr char kNames[] = "names from, one a line";
+
 void AddNames(Command& command, NameOptions& options, const std::string& usage, const std::string& help) {
   command.Arguments(usage, options.bulk.names, help);
   command.Text("--prefix TEXT", options.prefix, "Prefix of the names instead of kavrix://resource/");
   command.Flag("--marker", options.marker, "The names are marker names, not bubble names");
 }
 
-void AddInput(Command& command, NameOptions& options, const std::string& what = "names from, one a line") {
+void AddInput(Command& command, NameOptions& options, const std::string& what) {
   AddInputOption(command, options.bulk, what);
   command.Flag("--null", options.bulk.null_delimited, "Names in the input end in NUL, not newline");
 }
@@ -45,17 +47,13 @@ void AddNameOptions(Command& command, NameOptions& options) {
 void AddNameOptionsBesidesConfig(Command& command, NameOptions& options, const std::string& help) {
   AddNames(command, options, "[NAME]...", help);
   AddBulkOptions(command, options.bulk);
-  AddInput(command, options);
+  AddInput(command, options, kNames);
 }
 
 void AddDrawnNameOptions(Command& command, NameOptions& options, const std::string& usage,
                          const std::string& help) {
   AddNames(command, options, usage, help);
-  if (usage == "[NAME]") {
-    AddInput(command, options, "the name from");
-  } else {
-    AddInput(command, options);
-  }
+  AddInput(command, options, usage == "[NAME]" ? "the name from" : kNames);
   AddConfig(command, options);
 }
 
