@@ -69,7 +69,9 @@ class Experiment {
     for (std::size_t byte = 0; byte < name_.size(); ++byte) {
       if (sample_.Has(byte)) ReplaceByte(byte);
     }
-    for (const ExplainedMember& member : explanation_.members) ReplaceBytesOf(member);
+    for (std::size_t i = 0; i < explanation_.members.size(); ++i) {
+      if (sample_.Has(i)) ReplaceBytesOf(explanation_.members[i]);
+    }
     ChangeStyles();
     return std::move(faults_);
   }
@@ -246,14 +248,16 @@ class Experiment {
         Fault("other members change with value " + std::to_string(number) + " of \"" + record + "\"");
     };
     Values changed = values_;
+    std::size_t place = 0;
     const auto change = [&](const char* record_name, auto& record) {
       const auto before = record;
-      record.name += "'";
-      check(changed, record_name, 0);
-      record = before;
-      for (std::size_t number = 1; number <= record.kValueCount; ++number) {
-        if (!sample_.Has(number)) continue;
-        record.SetWord(number, record.Word(number) + 0x10000);
+      for (std::size_t number = 0; number <= record.kValueCount; ++number) {
+        if (!sample_.Has(place++)) continue;
+        if (number == 0) {
+          record.name += "'";
+        } else {
+          record.SetWord(number, record.Word(number) + 0x10000);
+        }
         check(changed, record_name, number);
         record = before;
       }

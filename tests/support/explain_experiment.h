@@ -15,7 +15,8 @@ struct ExperimentCounts {
   std::size_t skipped = 0;
 };
 
-// Which bytes of the name and which values of the configuration are replaced: the first, and every so many.
+// Which bytes and members of the name and which values of the configuration are replaced: the first, and
+// every so many.
 struct ExperimentSample {
   std::size_t every = 1;
   std::size_t first = 0;
