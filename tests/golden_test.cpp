@@ -7,6 +7,8 @@
 #include <map>
 #include <nlohmann/json.hpp>
 #include <regex>
+#include <stdexcept>
+#include <string_view>
 
 #include "tests/support/read_file.h"
 #include "tests/support/tool.h"
@@ -40,6 +42,20 @@ class GoldenTest : public ::testing::TestWithParam<const BubbleKindInfo*> {
     if (GetParam()->entry_point == EntryPoint::kMarker) arguments.emplace_back("--marker");
     arguments.emplace_back("--null");
     return RunTool(arguments, names);
+  }
+  // The text of an exception is the standard library's own: the golden files have libstdc++'s.
+  static std::string WithTheExceptionsOfThisLibrary(const std::string& lines) {
+#ifdef __GLIBCXX__
+    return lines;
+#else
+    static const std::regex text("basic_string_view::substr: __pos [^\"]*");
+    try {
+      (void)std::string_view().substr(1);
+    } catch (const std::out_of_range& exception) {
+      return std::regex_replace(lines, text, exception.what());
+    }
+    throw std::logic_error("substr takes any place");
+#endif
   }
   // The codes of the problems of each golden name, by its number.
   std::map<std::size_t, nlohmann::json> Codes() const {
@@ -77,7 +93,7 @@ TEST_P(GoldenTest, NamesDecodeAndCheckAsRecorded) {
     std::ofstream(path, std::ios::binary) << printed;
     return;
   }
-  EXPECT_EQ(FirstDifference(golden, printed), "") << kHowToUpdate;
+  EXPECT_EQ(FirstDifference(WithTheExceptionsOfThisLibrary(golden), printed), "") << kHowToUpdate;
 }
 
 TEST_P(GoldenTest, EveryKeyIsInANameAndInTheHeadCommentOfTheSource) {

@@ -3,10 +3,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstddef>
+#include <ios>
+#include <limits>
 #include <locale>
 #include <memory>
 #include <new>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -42,8 +45,9 @@ struct Context {
   std::string context_name = "ctx";
 };
 
-// Longer than any string can be: appending it throws before reading it.
-const std::string_view kTooLong("x", std::string().max_size());
+// As long as a stream can count, or as a string can be: appending it throws before reading it.
+const std::string_view kTooLong("x", std::min(std::string().max_size(),
+                                              std::size_t{std::numeric_limits<std::streamsize>::max()}));
 
 // A client's inserter that saves and restores the stream's format in the usual way.
 struct ClientType {};
@@ -260,7 +264,7 @@ TEST_F(TaggedLogTest, ExceptionFromTheMessageReachesTheCaller) {
 
 TEST_F(TaggedLogTest, ExceptionFromTheMessagesStorageReachesTheCallerAndTheRecordHoldsWhatWasWritten) {
   Install();
-  EXPECT_THROW(speaker_.SayTooLong(), std::length_error);
+  EXPECT_THROW(speaker_.SayTooLong(), std::exception);  // std::length_error, or std::bad_alloc with libc++
   EXPECT_THAT(sink_->messages, ElementsAre("[Kavrix][ctx]begun"));
   EXPECT_EQ(speaker_.evaluations, 0);
 }
@@ -268,8 +272,11 @@ TEST_F(TaggedLogTest, ExceptionFromTheMessagesStorageReachesTheCallerAndTheRecor
 TEST_F(TaggedLogTest, StreamOfAnOrdinaryRecordIsAsAnyOther) {
   Install();
   speaker_.SayClientType();
+  EXPECT_THAT(sink_->messages, ElementsAre("[Kavrix][ctx]ff 255 0.500000"));
+#ifdef __GLIBCXX__  // libc++ reads what a null pointer points to
   speaker_.SayTextThatIsNotThere();
-  EXPECT_THAT(sink_->messages, ElementsAre("[Kavrix][ctx]ff 255 0.500000", "[Kavrix][ctx]begun"));
+  EXPECT_EQ(sink_->messages.back(), "[Kavrix][ctx]begun");
+#endif
 }
 
 TEST_F(TaggedLogTest, NulBytesStayInTheMessage) {
