@@ -108,12 +108,27 @@ TEST(DocumentsTest, IndexLinksToEveryDocument) {
 
 TEST(DocumentsTest, ScriptsThatTheDocumentsNameAreThere) {
   static const std::regex name("scripts/([a-z_-]+)");
+  std::size_t names = 0;
   for (const std::string& document : Documents()) {
     const std::string text = ReadFile(kRoot / document);
     for (std::sregex_iterator found(text.begin(), text.end(), name), end; found != end; ++found) {
       EXPECT_TRUE(fs::exists(kRoot / (*found)[0].str())) << document << " names " << (*found)[0];
+      ++names;
     }
   }
+  EXPECT_GT(names, 20U);
+}
+
+TEST(DocumentsTest, GuideForContributorsNamesEveryScriptThatTests) {
+  const std::string guide = ReadFile(kRoot / "CONTRIBUTING.md");
+  std::size_t scripts = 0;
+  for (const fs::directory_entry& script : fs::directory_iterator(kRoot / "scripts")) {
+    const std::string name = script.path().filename();
+    if (name.rfind("test-", 0) != 0) continue;
+    EXPECT_NE(guide.find("`scripts/" + name + '`'), std::string::npos) << name;
+    ++scripts;
+  }
+  EXPECT_GT(scripts, 5U);
 }
 
 TEST(DocumentsTest, LinesFitAReviewersWindow) {
