@@ -43,14 +43,13 @@ int ReportUsageError(const std::exception& error, const std::string& hint = "") 
 
 // Returns the command that the first argument calls; null when it is an option. Throws UsageError for a
 // command that there is not.
-const CLI::App* CalledCommand(const CLI::App& app, int argc, const char* const* argv) {
+const CLI::App* CalledCommand(const CLI::App& app, const Commands& commands, int argc,
+                              const char* const* argv) {
   if (argc < 2 || argv[1][0] == '-') return nullptr;
-  std::vector<std::string> names;
   for (const CLI::App* const command : app.get_subcommands([](const CLI::App*) { return true; })) {
     if (command->get_name() == argv[1]) return command;
-    names.push_back(command->get_name());
   }
-  throw UnknownCommand(argv[1], names);
+  throw UnknownCommand(argv[1], NamesOf(commands));
 }
 
 // Names the option that an argument, from the `first` on, was probably meant to be.
@@ -214,7 +213,7 @@ int RunCommandLine(const Commands& commands, int argc, const char* const* argv) 
   }
   const CLI::App* command = nullptr;
   try {
-    command = CalledCommand(app, argc, argv);
+    command = CalledCommand(app, commands, argc, argv);
     app.parse(MarkNames(argc, argv));
     return called();
   } catch (const CLI::ParseError& error) {
