@@ -9,6 +9,7 @@ namespace {
 using ::testing::ContainsRegex;
 using ::testing::HasSubstr;
 using ::testing::MatchesRegex;
+using ::testing::Not;
 using ::testing::StartsWith;
 
 // Numbered names of 0 to 60,000 further bytes, decodable and not.
@@ -140,6 +141,22 @@ TEST(BulkDecodeTest, CommandsThatPrintAtTheEndShowTheirProgressOnATerminal) {
     EXPECT_THAT(result.output, ContainsRegex("\\^\\[K[5-8] names, [0-9]+ a second, [5-8] failed\n"))
         << command;
   }
+}
+
+TEST(BulkDecodeTest, SummaryOfAComparisonShowsItsProgressOnATerminal) {
+  const ToolResult result = RunShell(
+      "cd $(mktemp -d); export TOOL; \"$TOOL\" config --default > c; mkfifo names; (" +
+      std::string(kSlowNames) +
+      ") > names & script -qc '\"$TOOL\" compare --summary --config c --config c --input names' /dev/null "
+      "| tr '\\r\\033' '\\n^'; wait; rm -r $PWD");
+  EXPECT_THAT(result.output, ContainsRegex("\\^\\[K[5-8] names, [0-9]+ a second, 0 failed\n"));
+}
+
+TEST(BulkDecodeTest, ProgressDoesNotDisturbNamesThatAreTyped) {
+  const ToolResult result = RunShell("export TOOL; (" + std::string(kSlowNames) +
+                                     "; printf '\\004') | script -qc '\"$TOOL\" survey' /dev/null");
+  EXPECT_THAT(result.output, HasSubstr("8 names, 8 failed"));
+  EXPECT_THAT(result.output, Not(HasSubstr("\x1B[K")));
 }
 
 TEST(BulkDecodeTest, ProgressIsCutToTheWidthOfTheTerminal) {
