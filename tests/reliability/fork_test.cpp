@@ -44,6 +44,7 @@ TEST(ForkTest, ChildOfAProcessWithOneThreadDecodesAndLogs) {
   logging::SetLoggerInstance(0, {sink, logging::LogLevel::kRoutine, {}});
   ASSERT_TRUE(Decodes(transform));
   const std::size_t before = sink->count;
+  ASSERT_GT(before, 0U);
   const pid_t child = fork();
   if (child == 0) _exit(Decodes(transform) && sink->count == 2 * before ? 0 : 1);
   EXPECT_EQ(StatusOf(child), 0);

@@ -9,8 +9,8 @@
 
 namespace kavrix::test {
 
-// Makes configuration files that a loader takes, with odd numbers, texts and blanks, and changes files so
-// that it mostly still does.
+// Makes configuration files that a loader mostly takes, with odd numbers, texts and blanks, and changes files
+// so that it often still does.
 class RandomConfig {
  public:
   explicit RandomConfig(std::uint64_t seed) : random_(seed) {}
