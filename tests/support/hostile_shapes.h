@@ -6,6 +6,11 @@
 
 namespace kavrix::test {
 
+// What the cost of the others is compared with.
+inline constexpr char kTypicalName[] =
+    R"(kavrix://resource/{"content":"Slow traffic ahead, 5 min","direction":2,"mode":1,"light_text":"3 lights",)"
+    R"("scene":0,"extra_type":2,"nav_mode":1}.trafficBubble)";
+
 // A name made to cost much, of any length: `head`, many copies of `piece`, `tail`.
 struct HostileShape {
   const char* what;

@@ -14,9 +14,6 @@ namespace kavrix::test {
 namespace {
 
 constexpr std::size_t kLength = 50'000;
-constexpr char kTypical[] =
-    R"(kavrix://resource/{"content":"Slow traffic ahead, 5 min","direction":2,"mode":1,"light_text":"3 lights",)"
-    R"("scene":0,"extra_type":2,"nav_mode":1}.trafficBubble)";
 
 class Decoder {
  public:
@@ -43,6 +40,6 @@ class Decoder {
 int main() {
   using namespace kavrix::test;
   Decoder decoder;
-  decoder.Count("typical", kTypical);
+  decoder.Count("typical", kTypicalName);
   for (const HostileShape& shape : HostileShapes()) decoder.Count(shape.what, NameOf(shape, kLength));
 }
