@@ -5,6 +5,7 @@ folder, and of the others the shortest, as long as the whole has at most 100,000
 After a long run, keeps what reaches all code, and some of what runs it another number of times, here of the fuzzer NAME:
 
     cd build/fuzz
+    rm -rf code counts && mkdir code counts
     ../asan/NAME_fuzzer -set_cover_merge=1 -max_len=2048 -use_counters=0 code corpus/NAME seeds/NAME
     ../asan/NAME_fuzzer -set_cover_merge=1 -max_len=256 counts corpus/NAME seeds/NAME
     ../../fuzz/pack_corpus.py code counts >../../fuzz/corpus/NAME.jsonl
