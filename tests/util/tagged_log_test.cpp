@@ -10,6 +10,7 @@
 #include <locale>
 #include <memory>
 #include <new>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -48,6 +49,11 @@ struct Context {
 // As long as a stream can count, or as a string can be: appending it throws before reading it.
 const std::string_view kTooLong("x", std::min(std::string().max_size(),
                                               std::size_t{std::numeric_limits<std::streamsize>::max()}));
+#ifdef __GLIBCXX__
+using TooLongError = std::length_error;
+#else
+using TooLongError = std::bad_alloc;  // a string of libc++ may be longer than a stream can count
+#endif
 
 // A client's inserter that saves and restores the stream's format in the usual way.
 struct ClientType {};
@@ -264,7 +270,7 @@ TEST_F(TaggedLogTest, ExceptionFromTheMessageReachesTheCaller) {
 
 TEST_F(TaggedLogTest, ExceptionFromTheMessagesStorageReachesTheCallerAndTheRecordHoldsWhatWasWritten) {
   Install();
-  EXPECT_THROW(speaker_.SayTooLong(), std::exception);  // std::length_error, or std::bad_alloc with libc++
+  EXPECT_THROW(speaker_.SayTooLong(), TooLongError);
   EXPECT_THAT(sink_->messages, ElementsAre("[Kavrix][ctx]begun"));
   EXPECT_EQ(speaker_.evaluations, 0);
 }
@@ -275,7 +281,7 @@ TEST_F(TaggedLogTest, StreamOfAnOrdinaryRecordIsAsAnyOther) {
   EXPECT_THAT(sink_->messages, ElementsAre("[Kavrix][ctx]ff 255 0.500000"));
 #ifdef __GLIBCXX__  // libc++ reads what a null pointer points to
   speaker_.SayTextThatIsNotThere();
-  EXPECT_EQ(sink_->messages.back(), "[Kavrix][ctx]begun");
+  EXPECT_THAT(sink_->messages, ElementsAre("[Kavrix][ctx]ff 255 0.500000", "[Kavrix][ctx]begun"));
 #endif
 }
 
