@@ -82,6 +82,10 @@ ToolResult RunShell(const std::string& command) {
   return RunProgram({"/bin/sh", "-c", "TOOL='" KAVRIX_TOOL "'; " + command});
 }
 
+ToolResult RunShellInFolder(const std::string& command) {
+  return RunShell("folder=$(mktemp -d) && cd \"$folder\" || exit; trap 'rm -r \"$folder\"' EXIT; " + command);
+}
+
 std::vector<std::string> ToolCommands() {
   const std::regex command_line("^  ([a-z]+) .*");  // an option begins with a dash
   std::vector<std::string> commands;

@@ -26,6 +26,9 @@ ToolResult RunProgram(const std::vector<std::string>& command, const std::string
 // Runs a shell command in which $TOOL is the tool, for pipes and redirections.
 ToolResult RunShell(const std::string& command);
 
+// Runs it in a folder of its own, which is removed afterwards.
+ToolResult RunShellInFolder(const std::string& command);
+
 // Returns the names of the tool's commands, which its help lists.
 std::vector<std::string> ToolCommands();
 

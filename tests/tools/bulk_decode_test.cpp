@@ -134,21 +134,19 @@ TEST(BulkDecodeTest, LongRunShowsItsProgressOnATerminalAndClearsIt) {
 // here.
 TEST(BulkDecodeTest, CommandsThatPrintAtTheEndShowTheirProgressOnATerminal) {
   for (const std::string command : {"survey", "gallery --input"}) {
-    const ToolResult result =
-        RunShell("cd $(mktemp -d); export TOOL; mkfifo names; (" + std::string(kSlowNames) +
-                 ") > names & script -qc '\"$TOOL\" " + command +
-                 " names' /dev/null | tr '\\r\\033' '\\n^'; wait; rm -r $PWD");
+    const ToolResult result = RunShellInFolder("export TOOL; mkfifo names; (" + std::string(kSlowNames) +
+                                               ") > names & script -qc '\"$TOOL\" " + command +
+                                               " names' /dev/null | tr '\\r\\033' '\\n^'; wait");
     EXPECT_THAT(result.output, ContainsRegex("\\^\\[K[5-8] names, [0-9]+ a second, [5-8] failed\n"))
         << command;
   }
 }
 
 TEST(BulkDecodeTest, SummaryOfAComparisonShowsItsProgressOnATerminal) {
-  const ToolResult result = RunShell(
-      "cd $(mktemp -d); export TOOL; \"$TOOL\" config --default > c; mkfifo names; (" +
-      std::string(kSlowNames) +
+  const ToolResult result = RunShellInFolder(
+      "export TOOL; \"$TOOL\" config --default > c; mkfifo names; (" + std::string(kSlowNames) +
       ") > names & script -qc '\"$TOOL\" compare --summary --config c --config c --input names' /dev/null "
-      "| tr '\\r\\033' '\\n^'; wait; rm -r $PWD");
+      "| tr '\\r\\033' '\\n^'; wait");
   EXPECT_THAT(result.output, ContainsRegex("\\^\\[K[5-8] names, [0-9]+ a second, 0 failed\n"));
 }
 

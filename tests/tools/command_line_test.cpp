@@ -69,7 +69,7 @@ TEST(CommandLineTest, EveryCommandHasItsTestsAndItsPlaceInTheTour) {
 
 // The files that the examples of the help texts read.
 constexpr char kExampleFiles[] =
-    "cd $(mktemp -d); trap 'rm -rf \"$PWD\"' EXIT; set -o pipefail;"
+    "folder=$(mktemp -d) && cd \"$folder\" || exit; trap 'rm -rf \"$folder\"' EXIT; set -o pipefail;"
     "kavrix-resource() { \"$TOOL\" \"$@\"; }; man() { [ \"$*\" = '-l -' ] && cat; };"
     "kavrix-resource config --default | tee old.json > my.json; cp old.json new.json;"
     "echo 'kavrix://resource/Main St_0@12.labelBubble' | tee names.txt > client.log;";

@@ -69,9 +69,9 @@ TEST(InputOptionTest, DrawTakesTheOnlyNameOfTheFile) {
 }
 
 TEST(InputOptionTest, CheckNamesTheFile) {
-  const ToolResult result = RunShell(
-      "cd $(mktemp -d); printf 'kavrix://resource/{\"mode\":0}.trafficBubble\\nx\\n' > names; "
-      "\"$TOOL\" check --input names; rm -r $PWD");
+  const ToolResult result = RunShellInFolder(
+      "printf 'kavrix://resource/{\"mode\":0}.trafficBubble\\nx\\n' > names; "
+      "\"$TOOL\" check --input names");
   EXPECT_EQ(result.output, "names:2:0: error: no marker of a kind occurs in the name [no-marker]\n");
   EXPECT_THAT(RunTool({"check", "--input", "-"}, "x\n").output, StartsWith("-:1:0: error: "));
 }

@@ -237,10 +237,10 @@ TEST(SurveyCommandTest, CompressedFileIsToldOf) {
 }
 
 TEST(SurveyCommandTest, ReportsMergeFromSeveralFiles) {
-  const ToolResult result = RunShell(
-      "cd $(mktemp -d) && echo a | $TOOL survey > 1 && echo b.turnBubble | $TOOL survey > 2 && $TOOL survey "
+  const ToolResult result = RunShellInFolder(
+      "echo a | $TOOL survey > 1 && echo b.turnBubble | $TOOL survey > 2 && $TOOL survey "
       "--merge 1 - 2 < 2 && "
-      "printf 'a\nb.turnBubble\nb.turnBubble\n' | $TOOL survey && rm -r $PWD");
+      "printf 'a\nb.turnBubble\nb.turnBubble\n' | $TOOL survey");
   ASSERT_EQ(result.Lines().size(), 2U);
   EXPECT_EQ(result.Lines()[0], result.Lines()[1]);
 }
