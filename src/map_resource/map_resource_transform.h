@@ -39,8 +39,8 @@ class KAVRIX_EXPORT MapResourceTransform {
   /// kind always gives a descriptor to draw, however broken its payload is. Only a name without a marker, and
   /// a safe-warning name whose payload is not two parts joined by `@`, leave `out` unchanged. Failures that a
   /// kind reports are log records of level kFailure; some kinds of broken payloads are reported by none.
-  /// Throws std::out_of_range for a name that has a marker and is shorter than the prefix (kinds that read the
-  /// whole name do not), and what the standard library throws when memory runs out.
+  /// Throws std::out_of_range for a name that has a marker and is shorter than the prefix (kinds that read
+  /// the whole name do not), and what the standard library throws when memory runs out.
   void GetBubbleDrawDescriptor(const std::string& resource_name, std::shared_ptr<BubbleDrawDescriptor>& out);
 
   /// Decodes the name of a map marker: prefix, JSON object, ".marker". `out` becomes a new
