@@ -1,4 +1,5 @@
-# Installs the tool and checks what makes a fault in it harder to exploit. `cmake -P` runs it, with BUILD_DIR, SOURCE_DIR and READELF.
+# Installs the tool and checks what makes a fault in it, or in the libraries that it is linked from, harder to exploit. `cmake -P`
+# runs it, with BUILD_DIR, SOURCE_DIR, READELF and LIBRARIES.
 set(prefix ${BUILD_DIR}/hardening)
 file(REMOVE_RECURSE ${prefix})
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD_DIR} --component kavrix_tool --prefix ${prefix} --strip
@@ -16,6 +17,13 @@ expect("GNU_RELRO" "tables that are read-only while it runs")
 expect("BIND_NOW|Flags: NOW" "all symbols bound at its start, so that those tables can be")
 expect("__stack_chk_fail" "the guard of the stack")
 expect("__[a-z]+_chk@" "the C library's checks of lengths")
+# The tool's own code would be enough for the line above.
+foreach(library IN LISTS LIBRARIES)
+  execute_process(COMMAND ${READELF} -W -s ${library} OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
+  if(NOT symbols MATCHES "UND __stack_chk_fail")
+    message(SEND_ERROR "${library} does not guard the stack")
+  endif()
+endforeach()
 if(parts MATCHES "R(UN)?PATH")
   message(SEND_ERROR "${tool} looks for libraries in a folder of its own")
 endif()
