@@ -41,5 +41,7 @@ int main() {
   using namespace kavrix::test;
   Decoder decoder;
   decoder.Count("typical", kTypicalName);
-  for (const HostileShape& shape : HostileShapes()) decoder.Count(shape.what, NameOf(shape, kLength));
+  const auto& shapes = HostileShapes();
+  for (const HostileShape& shape : shapes) decoder.Count(shape.what, NameOf(shape, kLength));
+  std::cout << "shapes: " << shapes.size() << '\n';
 }
