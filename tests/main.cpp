@@ -1,30 +1,40 @@
 #include <gmock/gmock.h>
 
-#include <cstdlib>
+#include <iostream>
 #include <locale>
+#include <string>
 #include <string_view>
 
 #include "tests/support/golden.h"
 
 namespace {
 
-// KAVRIX_TEST_LOCALE=NAME runs all tests under that locale, as the C and as the C++ global one:
-// scripts/test-locale.
-void SetLocale() {
-  const char* const name = std::getenv("KAVRIX_TEST_LOCALE");
-  if (name != nullptr) std::locale::global(std::locale(name));  // a named one is the C library's too
+constexpr std::string_view kLocale = "--locale=";
+
+// --update-goldens runs only the tests that then rewrite goldens and documents from the tool's output.
+// --locale=NAME runs all tests under that locale, as the C and as the C++ global one: scripts/test-locale.
+bool TakeArgument(std::string_view argument) {
+  if (argument == "--update-goldens") {
+    kavrix::test::update_goldens = true;
+    GTEST_FLAG_SET(filter, "*GoldenTest.*:KindsCommandTest.*");
+    return true;
+  }
+  if (argument.substr(0, kLocale.size()) == kLocale) {
+    std::locale::global(std::locale(std::string(argument.substr(kLocale.size()))));
+    return true;
+  }
+  return false;
 }
 
 }  // namespace
 
-// --update-goldens runs only the tests that then rewrite goldens and documents from the tool's output.
 int main(int argc, char** argv) {
+  ::testing::InitGoogleMock(&argc, argv);  // takes googletest's own arguments
   for (int i = 1; i < argc; ++i) {
-    if (std::string_view(argv[i]) != "--update-goldens") continue;
-    kavrix::test::update_goldens = true;
-    GTEST_FLAG_SET(filter, "*GoldenTest.*:KindsCommandTest.*");
+    if (TakeArgument(argv[i])) continue;
+    std::cerr << argv[0] << ": there is no argument \"" << argv[i]
+              << "\", expected --update-goldens, --locale=NAME or one of googletest's\n";
+    return 2;
   }
-  ::testing::InitGoogleMock(&argc, argv);
-  SetLocale();
   return RUN_ALL_TESTS();
 }

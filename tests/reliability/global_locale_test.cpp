@@ -131,5 +131,15 @@ TEST_F(GlobalLocaleTest, PlainRealsLeaveTheOtherKeysOfTheirPayloadRead) {
   }
 }
 
+TEST_F(GlobalLocaleTest, RealInAPayloadThatIsNotPlainIsReadByIt) {
+  const std::string name = "kavrix://resource/{/**/\"scene\":1.5,\"content\":\"read\"}.markerBubble";
+  std::shared_ptr<BubbleDrawDescriptor> out;
+  transform_.GetBubbleDrawDescriptor(name, out);
+  EXPECT_EQ(out->content, "") << "1.5 is no number here: the payload is broken";
+  const ClassicLocale classic;
+  transform_.GetBubbleDrawDescriptor(name, out);
+  EXPECT_EQ(out->content, "read");
+}
+
 }  // namespace
 }  // namespace kavrix::test

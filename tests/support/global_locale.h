@@ -24,11 +24,6 @@ class GlobalLocale {
   std::locale earlier_;
 };
 
-// Whether the global C++ locale has a decimal point. Where it has not, JsonCpp refuses payloads with reals.
-inline bool HasDecimalPoint() {
-  return std::use_facet<std::numpunct<char>>(std::locale()).decimal_point() == '.';
-}
-
 // Makes the classic locale the global C++ one while it lives, for what is compared with the library: JsonCpp
 // reads reals by the global locale.
 class ClassicLocale {
