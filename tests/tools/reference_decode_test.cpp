@@ -6,7 +6,9 @@
 #include <algorithm>
 #include <fstream>
 #include <limits>
+#include <locale>
 #include <nlohmann/json.hpp>
+#include <sstream>
 #include <stdexcept>
 
 #include "fuzz/vocabulary.h"
@@ -171,6 +173,7 @@ class ReferenceDecodeTest : public ::testing::Test {
   json WordText(std::uint32_t word) {
     if (random_() % 2 == 0) return word;
     std::ostringstream text;
+    text.imbue(std::locale::classic());
     text << "0x" << std::hex << word;
     return text.str();
   }
