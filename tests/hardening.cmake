@@ -17,7 +17,7 @@ expect("GNU_RELRO" "tables that are read-only while it runs")
 expect("BIND_NOW|Flags: NOW" "all symbols bound at its start, so that those tables can be")
 expect("__stack_chk_fail" "the guard of the stack")
 expect("__[a-z]+_chk@" "the C library's checks of lengths")
-# The tool's own code would be enough for the line above.
+# The guard in the tool's own code says nothing of theirs.
 foreach(library IN LISTS LIBRARIES)
   execute_process(COMMAND ${READELF} -W -s ${library} OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
   if(NOT symbols MATCHES "UND __stack_chk_fail")
